@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the program and starts it. Without a display it runs the tour instead.
+# shellcheck source=scripts/lib.sh
+source "$(dirname "$0")/lib.sh"
+
+install_packages
+build release
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    say "There is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)"
+    run_tour release
+else
+    say "Starting build/release/bin/zn64-clockwright"
+    exec build/release/bin/zn64-clockwright
+fi
