@@ -1,0 +1,111 @@
+#include "CustomQControl.h"
+
+#include "appearance.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace {
+
+/// Built once: every combo compares against these texts on each change of focus.
+struct ComboSheets
+{
+    QString normal = sheet("rgb(0, 176, 240)", "black");
+    QString active = sheet("rgb(0, 176, 240)", "rgb(51,51,51)");
+    QString disabled = sheet("gray", "gray");
+
+    static QString sheet(const char* border, const char* text)
+    {
+        return QStringLiteral("QComboBox{border-style: outset; border-width: 1px; border-color: %1;color:%2;"
+                              "border-radius:2px;padding:1px 2px;}")
+                   .arg(QLatin1String(border), QLatin1String(text)) +
+               QStringLiteral(
+                   "QAbstractItemView{border: 1px solid black; selection-background-color: lightgray; "
+                   "padding-top: 4px;padding-bottom:4px;}"
+                   "QComboBox::drop-down{border-left-width: 1px;border-left-color: blue;"
+                   "border-left-style: none; border-top-right-radius: 3px;border-bottom-right-radius: 3px;"
+                   "subcontrol-origin: padding;subcontrol-position: top right; width:20px;}"
+                   "QComboBox::down-arrow{image:url(:/image/downArrow4.png); height:20px; width:10px}"
+                   "QComboBox QAbstractScrollArea QScrollBar::vertical{"
+                   "background-color:rgb(217, 233, 246); width: 12px;}"
+                   "QComboBox QAbstractScrollArea QScrollBar::handle{background:rgb(36, 183, 181); "
+                   "border:2px solid transparent; border-radius:5px;}"
+                   "QComboBox QAbstractScrollArea QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
+                   "QComboBox QAbstractScrollArea QScrollBar::sub-line{background:transparent;}"
+                   "QComboBox QAbstractScrollArea QScrollBar::add-line{background:transparent;}");
+    }
+};
+
+const ComboSheets& sheets()
+{
+    static const ComboSheets all;
+    return all;
+}
+
+/// One style object serves all combos: a widget does not own the style that it is given.
+QStyle* windowsStyle()
+{
+    static QPointer<QStyle> style;
+    if (!style) {
+        style = QStyleFactory::create(QStringLiteral("Windows"));
+        style->setParent(qApp);
+    }
+    return style;
+}
+
+} // namespace
+
+CustomListView::CustomListView(QWidget* parent) : QListView(parent) {}
+
+void CustomListView::focusInEvent(QFocusEvent* event)
+{
+    emit focusInThis(true);
+    QAbstractItemView::focusInEvent(event);
+}
+
+void CustomListView::focusOutEvent(QFocusEvent* event)
+{
+    emit focusInThis(false);
+    QAbstractItemView::focusOutEvent(event);
+}
+
+CustomComboBox1::CustomComboBox1(QWidget* parent)
+    : QComboBox(parent), m_tempListView(new CustomListView(this))
+{
+    setContentsMargins(0, 0, 0, 0);
+    setFont(QFont(QStringLiteral("Arial"), 10, 0));
+    setView(m_tempListView);
+    setStyleSheet(sheets().normal);
+    setStyle(windowsStyle());
+    m_tempListView->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+void CustomComboBox1::setEnabledStatus(bool enabled)
+{
+    setEnabled(enabled);
+    appearance::setSheet(this, enabled ? sheets().active : sheets().disabled);
+}
+
+void CustomComboBox1::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        emit clicked();
+    QComboBox::mousePressEvent(event);
+}
+
+void CustomComboBox1::wheelEvent(QWheelEvent*) {}
+
+void CustomComboBox1::focusInEvent(QFocusEvent* event)
+{
+    appearance::setSheet(this, sheets().active);
+    QComboBox::focusInEvent(event);
+}
+
+void CustomComboBox1::focusOutEvent(QFocusEvent* event)
+{
+    appearance::setSheet(this, sheets().normal);
+    QComboBox::focusOutEvent(event);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QComboBox>
+#include <QListView>
+
+/// The popup list of a combo box; it tells when it takes and loses the keyboard focus.
+class CustomListView : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit CustomListView(QWidget* parent = nullptr);
+
+signals:
+    void focusInThis(bool focused);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+/// The program's own combo box: a blue outline, no mouse wheel, and a list view that reports its focus.
+class CustomComboBox1 : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit CustomComboBox1(QWidget* parent = nullptr);
+
+    /// Enables or greys the combo together with its outline. Pages use this and not setEnabled().
+    void setEnabledStatus(bool enabled);
+
+    CustomListView* listView() const { return m_tempListView; }
+
+signals:
+    void clicked();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    /// Swallows the wheel: it changes neither the selection nor the zoom of the view behind.
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    CustomListView* m_tempListView;
+};

@@ -1,0 +1,79 @@
+#include "ZN64MCUPLL.h"
+
+#include "appearance.h"
+#include "xml/guardedxml.h"
+
+#include <QDomDocument>
+#include <QGraphicsPixmapItem>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+
+/// extent is "width" for the vertical bar and "height" for the horizontal one.
+QString scrollBarSheet(const QString& extent)
+{
+    return QStringLiteral("QScrollBar{background:rgb(217, 233, 246); %1: 12px;}"
+                          "QScrollBar::handle{background:rgb(36, 183, 181); border:2px solid transparent; "
+                          "border-radius:5px;}"
+                          "QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
+                          "QScrollBar::sub-line{background:transparent;}"
+                          "QScrollBar::add-line{background:transparent;}")
+        .arg(extent);
+}
+
+} // namespace
+
+ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* parent)
+    : QWidget(parent), m_GraphicsView(new PinGraphicsView),
+      m_ZN64ClockConf(std::make_unique<ZN64ConfigCLK>(series)),
+      m_GraphicsScene(std::make_unique<QGraphicsScene>())
+{
+    m_GraphicsScene->setBackgroundBrush(QBrush(Qt::white, Qt::SolidPattern));
+    m_GraphicsView->setRenderHint(QPainter::Antialiasing, true);
+    m_GraphicsView->setScene(m_GraphicsScene.get());
+    m_GraphicsView->setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    m_GraphicsView->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255); border: none;"));
+    m_GraphicsView->verticalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("width")));
+    m_GraphicsView->horizontalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("height")));
+
+    auto* background = new QGraphicsPixmapItem(QPixmap(picture));
+    background->setTransformationMode(Qt::SmoothTransformation);
+    m_GraphicsScene->addItem(background);
+    m_GraphicsView->SetPixMapItem(background);
+
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(m_GraphicsView);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    setLayout(layout);
+}
+
+ZN64MCUPLL::~ZN64MCUPLL()
+{
+    // The scene goes first and takes the embedded controls along; the view must not look at it any more.
+    m_GraphicsView->setScene(nullptr);
+}
+
+void ZN64MCUPLL::SetLineEditColor(QLineEdit* edit, const QColor& color)
+{
+    appearance::setRoleColor(edit, QPalette::Text, color);
+}
+
+void ZN64MCUPLL::SetLabelColor(QLabel* label, const QColor& color)
+{
+    appearance::setRoleColor(label, QPalette::WindowText, color);
+}
+
+QString ZN64MCUPLL::GetXMLElementString(const QString& fileName, const QString& elementName)
+{
+    QDomDocument document;
+    if (!loadGuardedXml(fileName, document))
+        return {};
+    return document.documentElement().firstChildElement(elementName).text();
+}
+
+QGraphicsProxyWidget* ZN64MCUPLL::proxyOf(const QWidget* control)
+{
+    return control->window()->graphicsProxyWidget();
+}

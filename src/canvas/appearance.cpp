@@ -1,0 +1,39 @@
+#include "appearance.h"
+
+#include <QVariant>
+
+namespace {
+const char colorKey[] = "roleColor";
+const char paletteKey[] = "rolePalette";
+} // namespace
+
+void appearance::setSheet(QWidget* widget, const QString& sheet)
+{
+    if (widget->styleSheet() != sheet)
+        widget->setStyleSheet(sheet);
+}
+
+void appearance::setText(QLabel* label, const QString& text)
+{
+    if (label->text() != text)
+        label->setText(text);
+}
+
+void appearance::setText(QLineEdit* edit, const QString& text)
+{
+    if (edit->text() != text)
+        edit->setText(text);
+}
+
+void appearance::setRoleColor(QWidget* widget, QPalette::ColorRole role, const QColor& color)
+{
+    // The key of the palette tells whether anybody changed it since the colour was set here.
+    if (widget->property(colorKey) == color.rgba() &&
+        widget->property(paletteKey) == widget->palette().cacheKey())
+        return;
+    QPalette palette;
+    palette.setColor(role, color);
+    widget->setPalette(palette);
+    widget->setProperty(colorKey, color.rgba());
+    widget->setProperty(paletteKey, widget->palette().cacheKey());
+}

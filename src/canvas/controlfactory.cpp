@@ -1,0 +1,154 @@
+#include "ZN64MCUPLL.h"
+
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int outputEditWidth = 80;
+constexpr int outputEditHeight = 25;
+// From the corner of an output edit to that of its label.
+constexpr int outputLabelRight = 85;
+constexpr int outputLabelDown = 3;
+
+QFont arial(int pointSize, int weight)
+{
+    return QFont(QStringLiteral("Arial"), pointSize, weight);
+}
+
+/// The top-level widget that a proxy embeds. Unlike a plain dialog it does not vanish on Escape.
+class ControlWrapper : public QDialog
+{
+public:
+    using QDialog::QDialog;
+    void reject() override {}
+};
+
+} // namespace
+
+QDialog* ZN64MCUPLL::embed(QWidget* control, int x, int y, QGraphicsProxyWidget** proxy)
+{
+    auto* wrapper = new ControlWrapper(this, Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    wrapper->setContentsMargins(0, 0, 0, 0);
+    auto* layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    wrapper->setLayout(layout);
+    layout->addWidget(control);
+    QGraphicsProxyWidget* item = m_GraphicsScene->addWidget(wrapper);
+    item->setPos(x, y);
+    if (proxy)
+        *proxy = item;
+    return wrapper;
+}
+
+CustomComboBox1* ZN64MCUPLL::NewComboBoxInScenePos(int x, int y, int width, int z)
+{
+    QGraphicsProxyWidget* proxy = nullptr;
+    return NewComboBoxInScenePos(x, y, width, z, &proxy);
+}
+
+CustomComboBox1* ZN64MCUPLL::NewComboBoxInScenePos(int x, int y, int width, int z,
+                                                   QGraphicsProxyWidget** proxy)
+{
+    auto* combo = new CustomComboBox1(this);
+    connect(combo->listView(), SIGNAL(focusInThis(bool)), m_GraphicsView, SLOT(Focus_InControl_Slot(bool)));
+    combo->setFont(arial(10, 0));
+    combo->setFixedWidth(width);
+    combo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    embed(combo, x, y, proxy);
+    (*proxy)->setZValue(z);
+    return combo;
+}
+
+QLineEdit* ZN64MCUPLL::NewCustomLineEditInScenePos(const QString& text, int x, int y, int maxWidth)
+{
+    QGraphicsProxyWidget* proxy = nullptr;
+    QLineEdit* edit = NewCustomLineEditInScenePos(text, x, y, &proxy);
+    edit->setMaximumWidth(maxWidth);
+    return edit;
+}
+
+QLineEdit* ZN64MCUPLL::NewCustomLineEditInScenePos(const QString& text, int x, int y,
+                                                   QGraphicsProxyWidget** proxy)
+{
+    auto* edit = new QLineEdit(this);
+    edit->setText(text);
+    edit->setAlignment(Qt::AlignCenter);
+    edit->setFont(arial(10, 0));
+    edit->setMaximumWidth(60);
+    edit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    embed(edit, x, y, proxy);
+    return edit;
+}
+
+QLabel* ZN64MCUPLL::NewQLabelInScenePos(const QString& text, int x, int y, int pointSize, int weight)
+{
+    return NewQLabelInScenePos(text, x, y, pointSize, weight, nullptr);
+}
+
+QLabel* ZN64MCUPLL::NewQLabelInScenePos(const QString& text, int x, int y, int pointSize, int weight,
+                                        QGraphicsProxyWidget** proxy)
+{
+    auto* label = new QLabel(text, this);
+    label->setFont(arial(pointSize, weight));
+    embed(label, x, y, proxy);
+    return label;
+}
+
+QRadioButton* ZN64MCUPLL::NewRadioButtonInScenePos(int x, int y)
+{
+    auto* radio = new QRadioButton(this);
+    radio->setStyleSheet(
+        QStringLiteral("QRadioButton{background-color:rgb(222, 235, 246); spacing: 0px; spacing: 0px;}"
+                       "QRadioButton::indicator:checked {width:12px; height:12px; border-radius:6px; "
+                       "background-color:rgb(0, 176, 240);}"
+                       "QRadioButton::indicator:unchecked {width:10px; height:10px; border-radius:5px; "
+                       "border: 1px solid rgb(0, 176, 240); }"));
+    embed(radio, x, y);
+    return radio;
+}
+
+QLineEdit* ZN64MCUPLL::New_toperipheralControl(const QString& text, int x, int y, int pointSize)
+{
+    NewQLabelInScenePos(text, x + outputLabelRight, y + outputLabelDown, pointSize, 0);
+    return New_toperipheralControl(x, y, pointSize);
+}
+
+QLineEdit* ZN64MCUPLL::New_toperipheralControl(int x, int y, int)
+{
+    QLineEdit* edit = NewCustomLineEditInScenePos(QString(), x, y, 60);
+    edit->setReadOnly(true);
+    edit->setFixedHeight(outputEditHeight);
+    edit->setFixedWidth(outputEditWidth);
+    return edit;
+}
+
+QPushButton* ZN64MCUPLL::New_toperipheralListButton(int x, int y, int)
+{
+    auto* button =
+        new QPushButton(QIcon(QStringLiteral(":/image/btn_right_slider_hover.png")), tr("List"), this);
+    button->setFont(arial(10, 75));
+    button->setStyleSheet(QStringLiteral("border-style: none;"));
+    embed(button, x, y);
+    return button;
+}
+
+QDialog* ZN64MCUPLL::New_toperipheralListGroup(const QStringList& texts, int x, int y, int, int spacing)
+{
+    auto* box = new QGroupBox(this);
+    auto* layout = new QVBoxLayout;
+    for (const QString& text : texts) {
+        auto* label = new QLabel(text);
+        label->setFont(arial(9, 0));
+        layout->addWidget(label);
+    }
+    layout->setSpacing(spacing);
+    box->setLayout(layout);
+    box->setStyleSheet(QStringLiteral("background: rgb(153, 217, 234); border-style: outset; "
+                                      "border-width: 1px; border-color: rgb(0, 176, 240);border-radius:2px;"
+                                      "padding:1px 2px;"));
+    QGraphicsProxyWidget* proxy = nullptr;
+    QDialog* wrapper = embed(box, x, y, &proxy);
+    proxy->setZValue(2.0);
+    return wrapper;
+}

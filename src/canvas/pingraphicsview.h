@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QGraphicsView>
+
+class QGraphicsPixmapItem;
+
+/// A view that zooms in small steps between 0.2 and 5.0 and pans by dragging the background picture or by the
+/// arrow keys. It holds no clock logic.
+class PinGraphicsView : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    explicit PinGraphicsView(QWidget* parent = nullptr);
+
+    /// The background item, not owned: only a press on it starts a pan.
+    void SetPixMapItem(QGraphicsPixmapItem* item) { m_pixmapItem = item; }
+
+    /// Multiplier of a pan, 0.0 to 2.0; anything else is a programming fault.
+    void setTranslateSpeed(qreal speed);
+    qreal translateSpeed() const { return m_translateSpeed; }
+    /// Relative size of a zoom step, 0.0 to 1.0; anything else is a programming fault.
+    void setZoomDelta(qreal delta);
+    qreal zoomDelta() const { return m_zoomDelta; }
+
+    void zoomIn();
+    void zoomOut();
+    /// Back to the unit scale. The product of the zoom factors stays, so pans keep the speed of the old zoom:
+    /// this is meant.
+    void zoomReset();
+    /// Scales by the factor unless that leads out of 0.2 to 5.0.
+    void zoom(float scaleFactor);
+    /// Moves the picture by a distance in scene coordinates; less than a viewport pixel has no effect.
+    void translate(QPointF delta);
+
+public slots:
+    /// Keeps track of whether a combo's list has the focus; the combos are wired to it.
+    void Focus_InControl_Slot(bool focused) { m_focusInControl_Flag = focused; }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Qt::MouseButton m_translateButton = Qt::LeftButton;
+    qreal m_translateSpeed = 1.0;
+    qreal m_zoomDelta = 0.03;
+    bool m_bMouseTranslate = false;
+    QPoint m_lastMousePos;
+    qreal m_scale = 1.0;
+    bool m_focusInControl_Flag = false;
+    QGraphicsPixmapItem* m_pixmapItem = nullptr;
+};
