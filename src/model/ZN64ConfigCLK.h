@@ -198,7 +198,7 @@ public:
     /// Recalculates every derived field. It may raise APB1DIV and APB2DIV from 1 to 2 to keep the bus in its
     /// limit.
     void CalculateCLK();
-    /// The series' highest system clock, MHz.
+    /// The series' highest system clock, MHz; 0 for a value that is no series.
     int GetSYSCLKValidMaxValue() const;
     /// Whether MS puts the PLL's divided input within 2 to 16 MHz. corrected is always written: the nearest
     /// good MS, or 1. No field is written.
@@ -338,6 +338,51 @@ public:
     QString GetCLKOUTPINTextFromEnum(int pin) const;
 
 private:
+    /// What a search of the flexible PLL came to; all zero if nothing came near enough. The divider is FP on
+    /// the series that have it, else FR.
+    struct PllSolution
+    {
+        int ms = 0;
+        int ns = 0;
+        int divider = 0;
+    };
+
+    void initSources();
+    void initDividers();
+    void initResults();
+    void initPeripherals();
+
+    double flexiblePllOutput(double pllInput) const;
+    double hickToSclkValue() const;
+    double sysclkFromPll() const;
+    void calculateSysclk();
+    void calculateBuses();
+    void forceApbDividers();
+    void raiseApb1Divider();
+    void calculateUsbFromPll();
+
+    void solvePll(int forUsb);
+    void chooseUsbDivider();
+    void chooseUsbFu();
+    /// The wanted system clock, held down to the series' highest, MHz.
+    double wantedSysclk() const;
+    /// The VCO's top as the search sees it: lower while USB hangs on the VCO, MHz.
+    double solverVcoTop() const;
+    template <typename Table>
+    PllSolution nearestPll(const Table& dividers, double pllInput, double target) const;
+    PllSolution nearestVco(double pllInput, double target) const;
+    static int nearestFp(const PllSolution& vco, double pllInput, double target);
+    void storeSolution(const PllSolution& solution);
+
+    // An output counts only with a pin selected.
+    bool clkoutIs(CLKOUT source) const;
+    bool clkout1Is(CLKOUT1 source) const;
+    bool clkout2Is(CLKOUT2 source) const;
+    bool outputsUsePllFrom(PLLRC source) const;
+    bool usbUsesPllFrom(PLLRC source) const;
+    bool pllUserActive(unsigned user) const;
+    bool peripheralUsesPll(unsigned user) const;
+
     ZN64MCUSERIALS m_MCUType;
     const SeriesTraits* m_traits;
     /// Whether the answer in the conflict box holds for the next conflicts. Outlives a generation run.
