@@ -1,0 +1,282 @@
+#include "update/httpsdownload.h"
+
+#include "update/progressdialog.h"
+#include "update/targetpath.h"
+#include "widgets/messages.h"
+
+#include <QAuthenticator>
+#include <QFile>
+#include <QSslConfiguration>
+
+namespace {
+
+// Bytes that wait in memory at most when the net is faster than the disk.
+constexpr qint64 ReadBufferSize = 1024 * 1024;
+
+QUrl urlFromText(const QString& text)
+{
+    return QUrl::fromUserInput(text.trimmed());
+}
+
+bool isWebAddress(const QUrl& url)
+{
+    return url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+}
+
+} // namespace
+
+HttpsDownload::HttpsDownload(QWidget* parent) : m_parent(parent)
+{
+    QSslConfiguration tls = request.sslConfiguration();
+    // The peer's certificate is deliberately not verified.
+    tls.setPeerVerifyMode(QSslSocket::VerifyNone);
+    tls.setProtocol(QSsl::TlsV1SslV3);
+    request.setSslConfiguration(tls);
+    // The file is wanted byte by byte as it lies on the server, so the network layer must not unpack it.
+    request.setRawHeader(QByteArrayLiteral("Accept-Encoding"), QByteArrayLiteral("identity"));
+    connect(&qnam, &QNetworkAccessManager::authenticationRequired, this,
+            &HttpsDownload::slotAuthenticationRequired);
+    connect(&qnam, &QNetworkAccessManager::sslErrors, this, &HttpsDownload::sslErrors);
+}
+
+HttpsDownload::~HttpsDownload()
+{
+    if (reply != nullptr)
+        abandonTransfer();
+}
+
+void HttpsDownload::SetErrorInfoFlag(bool on)
+{
+    m_showErrorInfoFlag = on;
+}
+
+bool HttpsDownload::downloadFile(const QString& address, QString& folder, const QString& version,
+                                 qint64 totalBytes)
+{
+    const QUrl source = urlFromText(address);
+    const QString name = downloadFileName(source, version);
+    if (!source.isValid() || name.isEmpty()) {
+        showError(tr("Invalid URL : ") + address);
+        return false;
+    }
+    const QString path = folder + QLatin1Char('/') + name;
+    if (!openTarget(path))
+        return false;
+    folder = path;
+    return runTransfer(source, totalBytes);
+}
+
+bool HttpsDownload::downloadFileWithSaveTarget(const QString& address, const QString& path, qint64 totalBytes)
+{
+    const QUrl source = urlFromText(address);
+    if (!source.isValid()) {
+        showError(tr("Invalid URL : ") + address);
+        return false;
+    }
+    return openTarget(path) && runTransfer(source, totalBytes);
+}
+
+bool HttpsDownload::openTarget(const QString& path)
+{
+    if (QFile::exists(path)) {
+        if (m_showErrorInfoFlag && !mayReplace(path))
+            return false;
+        QFile::remove(path);
+    }
+    file = openFileForWrite(path);
+    return file != nullptr;
+}
+
+bool HttpsDownload::mayReplace(const QString& path)
+{
+    return showMessage(QMessageBox::Question, tr("Overwrite Existing File"),
+                       path + tr(" already exists in the current directory. Overwrite?"),
+                       {
+                           {QMessageBox::Ok,     tr("Ok")    },
+                           {QMessageBox::Cancel, tr("Cancel")}
+    }) !=
+           QMessageBox::Cancel;
+}
+
+QFile* HttpsDownload::openFileForWrite(const QString& path)
+{
+    auto opened = std::make_unique<QFile>(path);
+    if (opened->open(QIODevice::WriteOnly))
+        return opened.release();
+    showError(tr("Unable to save the file ") + path);
+    return nullptr;
+}
+
+bool HttpsDownload::runTransfer(const QUrl& source, qint64 totalBytes)
+{
+    m_downloadSucessFlag = false;
+    startRequest(source, totalBytes);
+    loop.exec();
+    // The program is being quit: the loop was left from outside.
+    if (reply != nullptr)
+        abandonTransfer();
+    return m_downloadSucessFlag;
+}
+
+void HttpsDownload::startRequest(const QUrl& source, qint64 totalBytes)
+{
+    url = source;
+    httpRequestAborted = false;
+    m_writeError = QString();
+    request.setUrl(url);
+    reply = qnam.get(request);
+    reply->setReadBufferSize(ReadBufferSize);
+    connect(reply, &QNetworkReply::finished, this, &HttpsDownload::httpFinished);
+    connect(reply, &QNetworkReply::readyRead, this, &HttpsDownload::httpReadyRead);
+    if (m_showErrorInfoFlag)
+        showProgress(totalBytes);
+}
+
+// A redirected transfer keeps its dialog: one that came anew with each redirection could not be clicked.
+void HttpsDownload::showProgress(qint64 totalBytes)
+{
+    if (progressDialog.isNull()) {
+        progressDialog = new ProgressDialog(url, m_parent);
+        progressDialog->setWindowModality(Qt::ApplicationModal);
+        progressDialog->setAttribute(Qt::WA_DeleteOnClose);
+        connect(progressDialog, &QProgressDialog::canceled, this, &HttpsDownload::cancelDownload);
+    }
+    progressDialog->setUrl(url);
+    progressDialog->setTotalBytes(totalBytes);
+    connect(reply, &QNetworkReply::downloadProgress, progressDialog, &ProgressDialog::networkReplyProgress);
+    connect(reply, &QNetworkReply::finished, this, &HttpsDownload::ProgressDlgHide);
+    progressDialog->show();
+}
+
+void HttpsDownload::httpReadyRead()
+{
+    if (file == nullptr)
+        return;
+    const QByteArray data = reply->readAll();
+    if (file->write(data) == data.size() && file->flush())
+        return;
+    m_writeError = file->errorString();
+    // Ends in httpFinished before it returns.
+    reply->abort();
+}
+
+void HttpsDownload::httpFinished()
+{
+    const QString path = closeFile();
+    if (httpRequestAborted) {
+        leaveLoop(false);
+        return;
+    }
+    if (!m_writeError.isNull() || reply->error() != QNetworkReply::NoError) {
+        failTransfer(path, m_writeError.isNull() ? reply->errorString() : m_writeError);
+        return;
+    }
+    const QVariant target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute);
+    if (target.isNull())
+        leaveLoop(true);
+    else
+        followRedirection(url.resolved(target.toUrl()), path);
+}
+
+void HttpsDownload::followRedirection(const QUrl& target, const QString& path)
+{
+    // A server may send us elsewhere in the net, but not to a file of this machine.
+    if (!isWebAddress(target)) {
+        failTransfer(path, target.toDisplayString());
+        return;
+    }
+    file = openFileForWrite(path);
+    if (file == nullptr) {
+        leaveLoop(false);
+        return;
+    }
+    disconnect(reply, &QNetworkReply::finished, this, &HttpsDownload::ProgressDlgHide);
+    reply->deleteLater();
+    startRequest(target, 0);
+}
+
+void HttpsDownload::failTransfer(const QString& path, const QString& reason)
+{
+    if (!path.isEmpty())
+        QFile::remove(path);
+    showError(tr("Download failed: ") + reason);
+    leaveLoop(false);
+}
+
+void HttpsDownload::leaveLoop(bool success)
+{
+    reply->deleteLater();
+    reply = nullptr;
+    m_downloadSucessFlag = success;
+    loop.quit();
+}
+
+void HttpsDownload::abandonTransfer()
+{
+    reply->disconnect(this);
+    reply->abort();
+    const QString path = closeFile();
+    if (!path.isEmpty())
+        QFile::remove(path);
+    ProgressDlgHide();
+    leaveLoop(false);
+}
+
+// The path of the file that was open; empty if none was.
+QString HttpsDownload::closeFile()
+{
+    if (file == nullptr)
+        return QString();
+    const QString path = file->fileName();
+    file->close();
+    delete file;
+    file = nullptr;
+    return path;
+}
+
+void HttpsDownload::ProgressDlgHide()
+{
+    if (progressDialog.isNull())
+        return;
+    progressDialog->hide();
+    // Later, because this also runs from within the dialog's own cancelling and closing.
+    progressDialog->deleteLater();
+    progressDialog.clear();
+}
+
+void HttpsDownload::cancelDownload()
+{
+    httpRequestAborted = true;
+    if (reply != nullptr)
+        reply->abort();
+}
+
+void HttpsDownload::sslErrors(QNetworkReply* failing, const QList<QSslError>& errors)
+{
+    // The connection may break, and the reply go, while the box is open.
+    const QPointer<QNetworkReply> guard = failing;
+    QStringList texts;
+    for (const QSslError& error : errors)
+        texts += error.errorString();
+    const int answer = showMessage(
+        QMessageBox::Warning, tr("SSL Errors"),
+        tr("One or more SSL errors has occurred: ") + tr("\n%1").arg(texts.join(QLatin1Char('\n'))),
+        {
+            {QMessageBox::Ignore, tr("Ignore")},
+            {QMessageBox::Abort,  tr("Abort") }
+    });
+    if (answer == QMessageBox::Ignore && !guard.isNull())
+        guard->ignoreSslErrors();
+}
+
+// Nothing is given, so a server that wants a password fails the request.
+void HttpsDownload::slotAuthenticationRequired(QNetworkReply*, QAuthenticator*) {}
+
+void HttpsDownload::showError(const QString& text)
+{
+    if (m_showErrorInfoFlag)
+        showMessage(QMessageBox::Critical, tr("Error"), text,
+                    {
+                        {QMessageBox::Ok, tr("Ok")}
+        });
+}
