@@ -1,0 +1,260 @@
+#include "FlexiblePllBlock.h"
+
+#include "canvas/appearance.h"
+#include "model/divisors.h"
+#include "model/seriestraits.h"
+#include "pages/ClockTreePage.h"
+#include "pages/inputlimits.h"
+#include "pages/styles.h"
+
+namespace {
+constexpr int editWidth = 60;
+constexpr int editHeight = 25;
+constexpr int registerWidth = 100;
+constexpr int registerHeight = 20;
+const std::vector<double>& outputDivisors()
+{
+    static const std::vector<double> list = listOf(divisors::pllFr);
+    return list;
+}
+} // namespace
+
+int FlexiblePllBlock::Parameter::typed() const
+{
+    QString text = edit->text();
+    if (text.startsWith(sign))
+        text.remove(0, 1);
+    return text.toInt();
+}
+
+void FlexiblePllBlock::Parameter::write(int value) const
+{
+    appearance::setText(edit, sign + QString::number(value));
+}
+
+FlexiblePllBlock::FlexiblePllBlock(ClockTreePage& page) : ClockBlock(page)
+{
+    m_ms.sign = QLatin1Char('/');
+    m_ms.lowest = divisors::pllMsMin;
+    m_ms.highest = divisors::pllMsMax;
+    m_ms.field = MODEL_FIELD(PLL_MS);
+    m_ms.error = "pll_ms input error!";
+    m_ns.sign = QLatin1Char('*');
+    m_ns.lowest = divisors::pllNsMin;
+    m_ns.highest = divisors::pllNsMax;
+    m_ns.field = MODEL_FIELD(PLL_NS);
+    m_ns.error = "pll_ns input error!";
+    addControls("New_pll_ms", [this] { New_pll_ms(); });
+    addControls("New_pll_ns", [this] { New_pll_ns(); });
+    addControls("New_pll_fr", [this] { New_pll_fr(); });
+    addControls("New_pll_CFG", [this] { New_pll_CFG(); });
+}
+
+void FlexiblePllBlock::New_pll_ms()
+{
+    makeParameter(m_ms, QStringLiteral("m_pllms"));
+    m_ms.edit->setValidator(inputlimits::pllMsValidator(&page()));
+    addSetting("pllms", parameterSetting(m_ms));
+}
+
+void FlexiblePllBlock::New_pll_ns()
+{
+    makeParameter(m_ns, QStringLiteral("m_pllns"));
+    m_ns.edit->setValidator(inputlimits::pllNsValidator(&page()));
+    addSetting("pllns", parameterSetting(m_ns));
+}
+
+void FlexiblePllBlock::makeParameter(Parameter& parameter, const QString& stem)
+{
+    parameter.name = label(stem + QLatin1String("_Label1"));
+    parameter.edit = page().placeEdit(stem + QLatin1String("_lineEdit"));
+    parameter.edit->setFixedSize(editWidth, editHeight);
+    parameter.edit->setStyleSheet(styles::createdPllEdit());
+    parameter.range = label(stem + QLatin1String("_Label2"));
+}
+
+Setting FlexiblePllBlock::parameterSetting(const Parameter& parameter)
+{
+    Setting setting = settings::whole(
+        model(), parameter.field, [&parameter](double value) { parameter.write(static_cast<int>(value)); },
+        settings::unchecked());
+    setting.read = [this, &parameter](const QString& text) {
+        const int value = text.toInt(nullptr, 10);
+        const bool good = parameter.inRange(value);
+        parameter.field.set(model(), good ? value : parameter.lowest);
+        parameter.edit->setText(parameter.sign + (good ? text : QString::number(parameter.lowest)));
+    };
+    return setting;
+}
+
+void FlexiblePllBlock::New_pll_fr()
+{
+    m_pllfr_Label = label(QStringLiteral("m_pllfr_Label"));
+    m_pllfr_ComboBox = combo(QStringLiteral("m_pllfr_ComboBox"), divisorItems(outputDivisors()));
+    addSetting("pllfr", settings::whole(
+                            model(), MODEL_FIELD(PLL_FR),
+                            [this](double divisor) {
+                                m_pllfr_ComboBox->setCurrentIndex(indexIn(outputDivisors(), divisor));
+                            },
+                            settings::oneOf(outputDivisors(), outputDivisors().front())));
+}
+
+void FlexiblePllBlock::New_pll_CFG()
+{
+    m_pllCFG_Label = label(QStringLiteral("m_pllCFG_Label"));
+    m_pllCFG_Value_lineEdit = page().placeEdit(QStringLiteral("m_pllCFG_Value_lineEdit"));
+    m_pllCFG_Value_lineEdit->setReadOnly(true);
+    m_pllCFG_Value_lineEdit->setFixedSize(registerWidth, registerHeight);
+    m_pllCFG_Value_lineEdit->setStyleSheet(styles::registerValue());
+}
+
+void FlexiblePllBlock::ControlsConnectSlots()
+{
+    connect(m_ms.edit, SIGNAL(returnPressed()), this, SLOT(pllms_LineEdit_returnPressed()));
+    connect(m_ms.edit, SIGNAL(textChanged(const QString&)), this,
+            SLOT(pllms_LineEdit_textChanged(const QString&)));
+    connect(m_ns.edit, SIGNAL(returnPressed()), this, SLOT(pllns_LineEdit_returnPressed()));
+    connect(m_ns.edit, SIGNAL(textChanged(const QString&)), this,
+            SLOT(pllns_LineEdit_textChanged(const QString&)));
+    connect(m_pllfr_ComboBox, SIGNAL(currentIndexChanged(int)), this,
+            SLOT(pllfr_ComboBox_currentIndexChanged(int)));
+}
+
+void FlexiblePllBlock::UI_Display()
+{
+    const bool on = page().pllInUse();
+    show(m_ms, on);
+    show(m_ns, on);
+    m_pllfr_Label->setEnabled(on);
+    m_pllfr_ComboBox->setEnabledStatus(on);
+    m_pllCFG_Label->setEnabled(on);
+    m_pllCFG_Value_lineEdit->setEnabled(on);
+}
+
+void FlexiblePllBlock::show(const Parameter& parameter, bool on)
+{
+    appearance::setSheet(parameter.edit, on ? styles::pllEdit() : styles::greyPllEdit());
+    parameter.name->setEnabled(on);
+    parameter.edit->setEnabled(on);
+    parameter.range->setEnabled(on);
+}
+
+void FlexiblePllBlock::UpdateResultControls()
+{
+    appearance::setText(m_pllCFG_Value_lineEdit,
+                        m_pllCFG_Label->isEnabled() ? model().Get_CRM_PLLCFG_Value() : QString());
+}
+
+void FlexiblePllBlock::Update_Flexible_Controls()
+{
+    m_ms.write(model().Get_PLL_MS());
+    m_ns.write(model().Get_PLL_NS());
+    m_pllfr_ComboBox->setCurrentIndex(indexIn(outputDivisors(), model().Get_PLL_FR()));
+}
+
+bool FlexiblePllBlock::takeTypedParameters()
+{
+    int ms = 0;
+    return takeMs(ms) && takeNs(ms);
+}
+
+bool FlexiblePllBlock::takeMs(int& ms)
+{
+    ms = m_ms.typed();
+    if (!m_ms.inRange(ms)) {
+        page().showError(m_ms.error);
+        return false;
+    }
+    int corrected = 0;
+    if (!model().PLL_MS_Valid_Check(ms, corrected)) {
+        if (!page().askToContinue(QMessageBox::Question,
+                                  "pll_ms input error, is it adjusted automatically?\nThe following "
+                                  "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz"))
+            return false;
+        ms = corrected;
+        m_ms.write(ms);
+    }
+    model().Set_PLL_MS(ms);
+    return true;
+}
+
+bool FlexiblePllBlock::takeNs(int ms)
+{
+    int ns = m_ns.typed();
+    if (!m_ns.inRange(ns)) {
+        page().showError(m_ns.error);
+        return false;
+    }
+    int corrected = 0;
+    if (!model().PLL_NS_Valid_Check(ns, ms, corrected)) {
+        const bool wide = model().traits().vco_1200;
+        if (!page().askToContinue(QMessageBox::Question,
+                                  wide ? "pll_ns input error, is it adjusted automatically?\n\nThe following "
+                                         "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= "
+                                         "1200MHz"
+                                       : "pll_ns input error, is it adjusted automatically?\n\nThe following "
+                                         "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= "
+                                         "1000MHz"))
+            return false;
+        ns = corrected;
+        m_ns.write(ns);
+    }
+    model().Set_PLL_NS(ns);
+    return true;
+}
+
+void FlexiblePllBlock::commit(const Parameter& parameter)
+{
+    if (!parameter.inRange(parameter.typed())) {
+        page().showError(parameter.error);
+        return;
+    }
+    if (!page().readHextForPll())
+        return;
+    page().UpdateCalculateResult();
+    paintTyped(parameter);
+}
+
+void FlexiblePllBlock::paintTyped(const Parameter& parameter)
+{
+    if (!parameter.edit->isEnabled())
+        return;
+    const QString text = parameter.edit->text();
+    if (!text.startsWith(parameter.sign)) {
+        // Setting the text raises the slot again, which then paints.
+        parameter.edit->setText(parameter.sign + text);
+        return;
+    }
+    const int typed = parameter.typed();
+    const bool committed = typed == static_cast<int>(parameter.field.get(model()));
+    appearance::setSheet(parameter.edit, committed ? styles::committedPllEdit() : styles::pendingPllEdit());
+    ZN64MCUPLL::SetLineEditColor(parameter.edit, parameter.inRange(typed) ? Qt::black : Qt::red);
+}
+
+void FlexiblePllBlock::pllms_LineEdit_returnPressed()
+{
+    commit(m_ms);
+}
+
+void FlexiblePllBlock::pllns_LineEdit_returnPressed()
+{
+    commit(m_ns);
+}
+
+void FlexiblePllBlock::pllms_LineEdit_textChanged(const QString&)
+{
+    paintTyped(m_ms);
+}
+
+void FlexiblePllBlock::pllns_LineEdit_textChanged(const QString&)
+{
+    paintTyped(m_ns);
+}
+
+void FlexiblePllBlock::pllfr_ComboBox_currentIndexChanged(int index)
+{
+    if (!page().readHextForPll())
+        return;
+    model().Set_PLL_FR(static_cast<int>(valueAt(outputDivisors(), index)));
+    page().UpdateCalculateResult();
+}

@@ -1,0 +1,67 @@
+#include "PllMultiplierBlock.h"
+
+#include "model/divisors.h"
+#include "pages/ClockTreePage.h"
+
+namespace {
+constexpr int firstMultiplier = divisors::pllMul.front();
+}
+
+PllMultiplierBlock::PllMultiplierBlock(ClockTreePage& page) : ClockBlock(page)
+{
+    addControls("New_pll_mult", [this] { New_pll_mult(); });
+}
+
+void PllMultiplierBlock::New_pll_mult()
+{
+    m_pllmult_Label = label(QStringLiteral("m_pllmult_Label"));
+    m_pllmult_ComboBox = combo(QStringLiteral("m_pllmult_ComboBox"),
+                               divisorItems(listOf(divisors::pllMul), QStringLiteral("  * ")));
+    addSetting("pllmult", multiplierSetting());
+}
+
+Setting PllMultiplierBlock::multiplierSetting()
+{
+    Setting setting = settings::whole(
+        model(), MODEL_FIELD(PLL_MUL),
+        [this](double multiplier) {
+            m_pllmult_ComboBox->setCurrentIndex(static_cast<int>(multiplier) - firstMultiplier);
+        },
+        settings::unchecked());
+    // The model follows through the combo's slot alone. There is no lower bound: a number below the first one
+    // takes the combo's selection away.
+    setting.read = [this](const QString& text) {
+        const int multiplier = text.toInt(nullptr, 10);
+        const bool listed = multiplier < firstMultiplier + m_pllmult_ComboBox->count();
+        m_pllmult_ComboBox->setCurrentIndex(listed ? qMax(multiplier, -firstMultiplier) - firstMultiplier
+                                                   : 0);
+    };
+    return setting;
+}
+
+void PllMultiplierBlock::ControlsConnectSlots()
+{
+    connect(m_pllmult_ComboBox, SIGNAL(currentIndexChanged(int)), this,
+            SLOT(pllmult_ComboBox_currentIndexChanged(int)));
+}
+
+void PllMultiplierBlock::UI_Display()
+{
+    const bool on = page().pllInUse();
+    m_pllmult_Label->setEnabled(on);
+    m_pllmult_ComboBox->setEnabledStatus(on);
+}
+
+void PllMultiplierBlock::Update_Normal_Controls()
+{
+    const int index = model().Get_PLL_MUL() - firstMultiplier;
+    m_pllmult_ComboBox->setCurrentIndex(index < m_pllmult_ComboBox->count() ? index : 0);
+}
+
+void PllMultiplierBlock::pllmult_ComboBox_currentIndexChanged(int)
+{
+    if (!page().readHextForPll())
+        return;
+    model().Set_PLL_MUL(m_pllmult_ComboBox->currentIndex() + firstMultiplier);
+    page().UpdateCalculateResult();
+}

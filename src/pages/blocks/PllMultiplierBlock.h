@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ClockBlock.h"
+
+/// The multiplier of the PLL's normal mode.
+class PllMultiplierBlock : public ClockBlock
+{
+    Q_OBJECT
+
+public:
+    explicit PllMultiplierBlock(ClockTreePage& page);
+
+    void ControlsConnectSlots() override;
+    void UI_Display() override;
+
+    /// Shows the multiplier that a solver found.
+    void Update_Normal_Controls();
+
+private slots:
+    void pllmult_ComboBox_currentIndexChanged(int);
+
+private:
+    void New_pll_mult();
+    Setting multiplierSetting();
+
+    QLabel* m_pllmult_Label = nullptr;
+    CustomComboBox1* m_pllmult_ComboBox = nullptr;
+};

@@ -1,0 +1,98 @@
+#include "PllSourceBlock.h"
+
+#include "pages/ClockTreePage.h"
+#include "pages/inputlimits.h"
+
+PllSourceBlock::PllSourceBlock(ClockTreePage& page) : ClockBlock(page)
+{
+    addControls("New_pllhextdiv", [this] { New_pllhextdiv(); });
+    addControls("New_pllrcs", [this] { New_pllrcs(); });
+}
+
+void PllSourceBlock::New_pllhextdiv()
+{
+    m_pllhextdiv_Label = label(QStringLiteral("m_pllhextdiv_Label"));
+    QButtonGroup* group = buttonGroup(QStringLiteral("m_pllhextdiv_ButtonGroup"));
+    m_pllhext_nodiv_RadioButton = radio(QStringLiteral("m_pllhext_nodiv_RadioButton"), group);
+    m_pllhext_div_RadioButton = radio(QStringLiteral("m_pllhext_div_RadioButton"), group);
+    m_pllhext_nodiv_RadioButton->setChecked(true);
+    m_pllhextdivChoices = {
+        {PLLHEXT_NODIV, m_pllhext_nodiv_RadioButton},
+        {PLLHEXT_DIV,   m_pllhext_div_RadioButton  }
+    };
+    addSetting("pllhextdiv",
+               settings::whole(
+                   model(), MODEL_FIELD(PLLHEXTDIV),
+                   [this](double value) { checkValue(m_pllhextdivChoices, value); }, settings::switched()));
+}
+
+void PllSourceBlock::New_pllrcs()
+{
+    m_pllrc_Label = label(QStringLiteral("m_pllrc_Label"));
+    QButtonGroup* group = buttonGroup(QStringLiteral("m_pllrc_ButtonGroup"));
+    m_pllrcs_hext_RadioButton = radio(QStringLiteral("m_pllrcs_hext_RadioButton"), group);
+    m_pllrcs_hick_RadioButton = radio(QStringLiteral("m_pllrcs_hick_RadioButton"), group);
+    m_pllrcs_hext_RadioButton->setChecked(true);
+    m_pllrcsChoices = {
+        {PLLRC_HEXT, m_pllrcs_hext_RadioButton},
+        {PLLRC_HICK, m_pllrcs_hick_RadioButton}
+    };
+    addSetting("pllrcs",
+               settings::whole(
+                   model(), MODEL_FIELD(PLLRC), [this](double value) { checkValue(m_pllrcsChoices, value); },
+                   settings::switched()));
+}
+
+void PllSourceBlock::ControlsConnectSlots()
+{
+    for (const RadioChoice& choice : m_pllhextdivChoices)
+        connect(choice.radio, SIGNAL(clicked(bool)), this, SLOT(pllhextdiv_RadioButton_checkSlot(bool)));
+    for (const RadioChoice& choice : m_pllrcsChoices)
+        connect(choice.radio, SIGNAL(clicked(bool)), this, SLOT(pllrcs_RadioButton_checkSlot(bool)));
+}
+
+void PllSourceBlock::UI_Display()
+{
+    const bool on = page().pllInUse();
+    m_pllrc_Label->setEnabled(on);
+    showRadios({m_pllrcs_hext_RadioButton, m_pllrcs_hick_RadioButton}, on);
+    if (m_pllhextdiv_Label) {
+        m_pllhextdiv_Label->setEnabled(on && hextSelected());
+        showRadios({m_pllhext_nodiv_RadioButton, m_pllhext_div_RadioButton}, on && hextSelected());
+    }
+}
+
+bool PllSourceBlock::PLLInputSourceClockCheck()
+{
+    if (!page().checksInputs() || !model().pll_isEnable() || !hextSelected())
+        return true;
+    const double input = model().GetPllInPutValue();
+    if (input < inputlimits::pllInputMin) {
+        page().showError("pll input clock source range 2-16MHz!");
+        page().correctHext(2 * model().Get_HEXT_DIV());
+        return false;
+    }
+    if (input > inputlimits::pllInputMax) {
+        page().showError("pll input clock source range 2-16MHz!");
+        // Whatever divider is chosen: the undivided limit is good with any of them.
+        page().correctHext(inputlimits::pllInputMax);
+        return false;
+    }
+    return true;
+}
+
+void PllSourceBlock::pllhextdiv_RadioButton_checkSlot(bool)
+{
+    page().UI_Display();
+    model().Set_PLLHEXTDIV(checkedValue(m_pllhextdivChoices));
+    if (page().readHextForPll())
+        page().keepTypedSysclk();
+}
+
+void PllSourceBlock::pllrcs_RadioButton_checkSlot(bool)
+{
+    page().UI_Display();
+    model().Set_PLLRC(checkedValue(m_pllrcsChoices));
+    if (page().readHextForPll())
+        page().keepTypedSysclk();
+}

@@ -1,0 +1,174 @@
+#include "SystemClockBlock.h"
+
+#include "canvas/appearance.h"
+#include "pages/ClockTreePage.h"
+#include "pages/inputlimits.h"
+#include "pages/styles.h"
+
+#include <QRegExpValidator>
+
+namespace {
+constexpr int editWidth = 80;
+constexpr int editHeight = 28;
+} // namespace
+
+SystemClockBlock::SystemClockBlock(ClockTreePage& page) : ClockBlock(page)
+{
+    addControls("New_sclkselect", [this] { New_sclkselect(); });
+    addControls("New_Result", [this] { New_Result(); });
+}
+
+void SystemClockBlock::New_sclkselect()
+{
+    label(QStringLiteral("m_sclkselect_Label"));
+    QButtonGroup* group = buttonGroup(QStringLiteral("m_sclkselect_ButtonGroup"));
+    m_sclkselect_hext_RadioButton = radio(QStringLiteral("m_sclkselect_hext_RadioButton"), group);
+    m_sclkselect_pll_RadioButton = radio(QStringLiteral("m_sclkselect_pll_RadioButton"), group);
+    m_sclkselect_hick_RadioButton = radio(QStringLiteral("m_sclkselect_hick_RadioButton"), group);
+    showRadios({m_sclkselect_hext_RadioButton, m_sclkselect_pll_RadioButton, m_sclkselect_hick_RadioButton},
+               true);
+    m_sclkselectChoices = {
+        {SYSCLK_HEXT, m_sclkselect_hext_RadioButton},
+        {SYSCLK_PLL,  m_sclkselect_pll_RadioButton },
+        {SYSCLK_HICK, m_sclkselect_hick_RadioButton}
+    };
+    addSetting("sclkselect", settings::whole(
+                                 model(), MODEL_FIELD(SYSCLKSelect),
+                                 [this](double value) {
+                                     checkValue(m_sclkselectChoices, value);
+                                     m_sclk_lineEdit->setEnabled(pllSelected());
+                                 },
+                                 settings::oneOf(valuesOf(m_sclkselectChoices), SYSCLK_HEXT)));
+}
+
+void SystemClockBlock::New_Result()
+{
+    label(QStringLiteral("m_sclk_Label"));
+    m_sclk_lineEdit = page().placeEdit(QStringLiteral("m_sclk_lineEdit"));
+    m_sclk_lineEdit->setFont(QFont(QStringLiteral("Arial"), 10, 75));
+    m_sclk_lineEdit->setFixedSize(editWidth, editHeight);
+    m_sclk_lineEdit->setMaxLength(9);
+    m_sclk_lineEdit->setStyleSheet(styles::committed());
+    m_sclk_lineEdit->setValidator(inputlimits::frequencyValidator(&page()));
+    labelIfPlaced(QStringLiteral("m_sclkRange_Label"));
+    if (!page().description().limits.sysclkWarning)
+        return;
+    for (const char* name : {"m_sclkWarning1_QLabel", "m_sclkWarning2_QLabel", "m_sclkWarning3_QLabel"}) {
+        QLabel* warning = label(QLatin1String(name));
+        warning->setText(page().translated(page().description().places.at(QLatin1String(name)).text));
+        warning->setVisible(false);
+        m_warnings.push_back(warning);
+    }
+}
+
+void SystemClockBlock::ControlsConnectSlots()
+{
+    connect(m_sclkselect_hext_RadioButton, SIGNAL(toggled(bool)), this,
+            SLOT(sclkselecthext_RadioButton_checkSlot(bool)));
+    connect(m_sclkselect_pll_RadioButton, SIGNAL(toggled(bool)), this,
+            SLOT(sclkselectpll_RadioButton_checkSlot(bool)));
+    connect(m_sclkselect_hick_RadioButton, SIGNAL(toggled(bool)), this,
+            SLOT(sclkselecthick_RadioButton_checkSlot(bool)));
+    connect(m_sclk_lineEdit, SIGNAL(returnPressed()), this, SLOT(sclk_LineEdit_returnPressed()));
+    connect(m_sclk_lineEdit, SIGNAL(textChanged(const QString&)), this,
+            SLOT(sclk_LineEdit_textChanged(const QString&)));
+}
+
+void SystemClockBlock::UpdateResultControls()
+{
+    const double sysclk = model().Get_SYSCLKValue();
+    const PageLimits& limits = page().description().limits;
+    ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, sysclk > limits.sysclk ? Qt::red : Qt::darkGreen);
+    appearance::setText(m_sclk_lineEdit, frequencyText(sysclk));
+    for (QLabel* warning : m_warnings)
+        warning->setVisible(sysclk > *limits.sysclkWarning);
+}
+
+bool SystemClockBlock::inRange(double sysclk) const
+{
+    const PageLimits& limits = page().description().limits;
+    return sysclk <= limits.sysclk && (!limits.lowestSysclk || sysclk >= *limits.lowestSysclk);
+}
+
+bool SystemClockBlock::Result_SYSCLK_Valid(double& value)
+{
+    const double sysclk = typed();
+    if (!page().checksInputs() || inRange(sysclk)) {
+        value = sysclk;
+        return true;
+    }
+    value = 0.0;
+    page().showError("sclk input error!");
+    return false;
+}
+
+void SystemClockBlock::disableEdit()
+{
+    m_sclk_lineEdit->setEnabled(false);
+    appearance::setSheet(m_sclk_lineEdit, styles::disabled());
+}
+
+void SystemClockBlock::sclkselecthick_RadioButton_checkSlot(bool)
+{
+    page().UI_Display();
+    if (hickSelected()) {
+        model().Set_SYSCLKSelect(SYSCLK_HICK);
+        disableEdit();
+        page().UpdateCalculateResult();
+    }
+    page().UpdateParam_From_ResultCLK();
+}
+
+void SystemClockBlock::sclkselecthext_RadioButton_checkSlot(bool)
+{
+    page().UI_Display();
+    if (hextSelected()) {
+        model().Set_SYSCLKSelect(SYSCLK_HEXT);
+        disableEdit();
+        if (!page().readHext())
+            return;
+        page().UpdateCalculateResult();
+    }
+    page().UpdateParam_From_ResultCLK();
+}
+
+void SystemClockBlock::sclkselectpll_RadioButton_checkSlot(bool)
+{
+    page().UI_Display();
+    if (pllSelected()) {
+        model().Set_SYSCLKSelect(SYSCLK_PLL);
+        m_sclk_lineEdit->setEnabled(true);
+        appearance::setSheet(m_sclk_lineEdit, styles::committed());
+        if (!page().readHextForPll())
+            return;
+        page().UpdateCalculateResult();
+    }
+    page().UpdateParam_From_ResultCLK();
+}
+
+void SystemClockBlock::sclk_LineEdit_returnPressed()
+{
+    if (!pllSelected())
+        return;
+    double sysclk = 0.0;
+    if (!Result_SYSCLK_Valid(sysclk))
+        return;
+    model().Set_SYSCLKValue(sysclk);
+    if (!page().readHextForPll())
+        return;
+    model().CalculateParam_From_SYSCLK();
+    page().updatePllControls();
+    appearance::setSheet(m_sclk_lineEdit, styles::committedSysclk());
+    page().UpdateResultControls();
+}
+
+void SystemClockBlock::sclk_LineEdit_textChanged(const QString& text)
+{
+    const double typed = text.toDouble();
+    if (frequencyText(typed) != frequencyText(model().Get_SYSCLKValue()))
+        appearance::setSheet(m_sclk_lineEdit, styles::pending());
+    else
+        appearance::setSheet(m_sclk_lineEdit,
+                             m_sclk_lineEdit->isEnabled() ? styles::committed() : styles::disabled());
+    ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, inRange(typed) ? Qt::darkGreen : Qt::red);
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ClockBlock.h"
+
+/// The USB clock: divider, switch, on some series the choice between the PLL and hick, and the result.
+class UsbBlock : public ClockBlock
+{
+    Q_OBJECT
+
+public:
+    explicit UsbBlock(ClockTreePage& page);
+
+    void ControlsConnectSlots() override;
+    void UI_Display() override;
+    void UpdateResultControls() override;
+
+    bool on() const { return m_tousbswitch_ComboBox->currentIndex() == 0; }
+    bool fromPll() const { return on() && pllSelected(); }
+    bool fromHick() const { return on() && !pllSelected(); }
+
+private slots:
+    void usbdiv_ComboBox_currentIndexChanged(int index);
+    void usbswitch_ComboBox_currentIndexChanged(int index);
+    void hicktousb_RadioButton_checkSlot(bool);
+
+private:
+    void New_usbdiv();
+    void New_tousb();
+    void New_hicktousb();
+    /// A series without a choice of the source always takes the PLL.
+    bool pllSelected() const { return !m_tousb_pll_RadioButton || m_tousb_pll_RadioButton->isChecked(); }
+    /// Whether switching USB on leaves the PLL as it is.
+    bool keepsPll() const;
+
+    QLabel* m_usbdiv_Label = nullptr;
+    CustomComboBox1* m_usbdiv_ComboBox = nullptr;
+    CustomComboBox1* m_tousbswitch_ComboBox = nullptr;
+    QLabel* m_usbclock_Label = nullptr;
+    QLabel* m_hicktousb_Label = nullptr;
+    QRadioButton* m_tousb_pll_RadioButton = nullptr;
+    QRadioButton* m_tousb_hick_RadioButton = nullptr;
+    std::vector<RadioChoice> m_tousbChoices;
+};

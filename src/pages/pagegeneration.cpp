@@ -1,0 +1,79 @@
+#include "ClockTreePage.h"
+
+#include "blocks/HighSpeedBlock.h"
+#include "blocks/SystemClockBlock.h"
+#include "pages/inputlimits.h"
+#include "widgets/messages.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QPushButton>
+#include <QUrl>
+
+bool ClockTreePage::GenerateCodeCheck()
+{
+    if (Get_Hext_Enable_Falg() && !inputlimits::hextInRange(m_highSpeed->typed())) {
+        showError("hext input error!");
+        return false;
+    }
+    if (!m_systemClock->inRange(m_systemClock->typed())) {
+        showError("sclk input error!");
+        return false;
+    }
+    return true;
+}
+
+bool ClockTreePage::prepareFolders(const QString& incPath, const QString& srcPath) const
+{
+    QDir dir;
+    if (!dir.exists(incPath) && !dir.mkpath(incPath)) {
+        showError("Creating \"inc\" folder error!");
+        return false;
+    }
+    if (!dir.exists(srcPath) && !dir.mkpath(srcPath)) {
+        showError("Creating \"src\" folder error!");
+        return false;
+    }
+    return true;
+}
+
+bool ClockTreePage::GenerateCode()
+{
+    if (!GenerateCodeCheck() || !passesHardLimits() || !passesSoftLimits())
+        return false;
+    const bool byUser = model().Get_GenerateCodeMode() == MODE_USER_BUTTON;
+    const QString folder =
+        byUser ? QFileDialog::getExistingDirectory(this, translated("Select directory"), QString())
+               : QCoreApplication::applicationDirPath() + QLatin1String("/Code_Sample");
+    if (folder.isNull())
+        return false;
+    const QString incPath = folder + QLatin1String("/inc");
+    const QString srcPath = folder + QLatin1String("/src");
+    if (!prepareFolders(incPath, srcPath))
+        return false;
+    if (!model().GenerateCode(incPath, srcPath, QLatin1String(m_description.stem))) {
+        showMessage(QMessageBox::Critical, translated("Error"), translated("Generate code failed!"),
+                    {
+                        {QMessageBox::Ok, translated("OK")}
+        });
+        return false;
+    }
+    if (byUser)
+        showGenerated(folder);
+    return true;
+}
+
+void ClockTreePage::showGenerated(const QString& folder) const
+{
+    const QString text = translated("Generate code finished!  Files:") +
+                         QStringLiteral("\n\nsrc/main.c\nsrc/%1_clock.c\ninc/%1_clock.h\ninc/%1_conf.h\n")
+                             .arg(QLatin1String(m_description.stem));
+    QMessageBox box(QMessageBox::Information, translated("Information"), text);
+    QPushButton* open = box.addButton(translated(" Open Folder  "), QMessageBox::ActionRole);
+    box.addButton(translated("OK"), QMessageBox::ActionRole);
+    box.exec();
+    if (box.clickedButton() == open)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+}
