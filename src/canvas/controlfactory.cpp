@@ -32,6 +32,8 @@ QDialog* ZN64MCUPLL::embed(QWidget* control, int x, int y, QGraphicsProxyWidget*
     wrapper->setContentsMargins(0, 0, 0, 0);
     auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
+    // The wrapper is never larger than its control, so that it covers no wire of the picture.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
     wrapper->setLayout(layout);
     layout->addWidget(control);
     QGraphicsProxyWidget* item = m_GraphicsScene->addWidget(wrapper);
