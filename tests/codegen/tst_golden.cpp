@@ -1,0 +1,78 @@
+#include "designs.h"
+#include "firmware/firmwarebuild.h"
+
+#include <QtTest>
+
+#include <QTemporaryDir>
+
+/// Whole generated files of telling designs against files written by hand.
+class GoldenTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void matches_data();
+    void matches();
+    void rewritesTheCrystalOnce();
+};
+
+namespace {
+QString readRaw(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : path;
+}
+} // namespace
+
+void GoldenTest::matches_data()
+{
+    QTest::addColumn<QString>("design");
+    QTest::addColumn<QString>("file");
+    const auto row = [](const char* design, const char* file) {
+        QTest::addRow("%s %s", design, file) << QString::fromLatin1(design) << QString::fromLatin1(file);
+    };
+    for (const char* design : {"g110_stepped", "g110_hick", "g150_pll", "g150_hick48"}) {
+        row(design, "clock.c");
+        row(design, "main.c");
+    }
+    for (const char* design : {"g110_hick", "g150_pll"}) {
+        row(design, "clock.h");
+        row(design, "conf.h");
+    }
+}
+
+void GoldenTest::matches()
+{
+    QFETCH(QString, design);
+    QFETCH(QString, file);
+    ZN64ConfigCLK clock = namedDesign(design);
+    const QString stem = stemOf(clock);
+    QTemporaryDir base;
+    QVERIFY(firmware::generate(clock, base.path(), stem));
+    const QString folder = file.endsWith(QLatin1String(".h")) ? QStringLiteral("inc") : QStringLiteral("src");
+    const QString name = file == QLatin1String("main.c") ? file : stem + QLatin1Char('_') + file;
+    const QStringList made =
+        readRaw(base.filePath(folder + QLatin1Char('/') + name)).split(QLatin1Char('\n'));
+    const QStringList wanted =
+        readRaw(QStringLiteral(EXPECTED_DIR "/%1_%2.txt").arg(design, file)).split(QLatin1Char('\n'));
+    QVERIFY(wanted.size() > 10);
+    for (int i = 0; i < qMin(made.size(), wanted.size()); ++i)
+        QVERIFY2(made[i] == wanted[i],
+                 qPrintable(QStringLiteral("line %1: '%2', not '%3'").arg(i + 1).arg(made[i], wanted[i])));
+    QCOMPARE(made.size(), wanted.size());
+}
+
+void GoldenTest::rewritesTheCrystalOnce()
+{
+    QString text = QStringLiteral("#define  HEXT_VALUE \t ((uint32_t)12000000) /* x */\n"
+                                  "#define HICK_VALUE ((uint32_t)12000000)\n");
+    ZN64ConfigCLK clock(ZN64G174); // 8 MHz, with a template of 12 MHz
+    QVERIFY(clock.GenerateCode_hextdefine(text));
+    QCOMPARE(text, QStringLiteral("#define  HEXT_VALUE \t ((uint32_t)8000000) /* x */\n"
+                                  "#define HICK_VALUE ((uint32_t)12000000)\n"));
+    QVERIFY(!ZN64ConfigCLK(ZN64G165).GenerateCode_hextdefine(
+        text = QStringLiteral("#define HEXT_VALUE ((uint32_t)12000000)")));
+}
+
+QTEST_GUILESS_MAIN(GoldenTest)
+#include "tst_golden.moc"
