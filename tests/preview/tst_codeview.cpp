@@ -231,4 +231,4 @@ void TestCodeView::contextMenuDoesNotGrow()
 }
 
 QTEST_MAIN(TestCodeView)
-#include "test_codeview.moc"
+#include "tst_codeview.moc"

@@ -1,0 +1,193 @@
+#include "shell/ZN64PLLConfig.h"
+
+#include "model/seriestraits.h"
+#include "pages/ClockTreePage.h"
+#include "pages/seriespages.h"
+#include "widgets/messages.h"
+#include "widgets/named.h"
+
+#include <QAction>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+ZN64PLLConfig::ZN64PLLConfig(QWidget* parent) : QWidget(parent)
+{
+    CreateActions();
+    createToolBar();
+    m_main_VBoxLayout = named("m_main_VBoxLayout", new QVBoxLayout);
+    m_main_VBoxLayout->addWidget(m_toolBarGroupBox);
+    m_main_VBoxLayout->setSpacing(0);
+    m_main_VBoxLayout->setContentsMargins(0, 0, 0, 0);
+    setLayout(m_main_VBoxLayout);
+}
+
+void ZN64PLLConfig::CreateActions()
+{
+    m_ZoomIn_Action = newAction("m_ZoomIn_Action", QStringLiteral(":/image/zoomin.png"), SLOT(ZoomIn()));
+    m_ZoomOut_Action = newAction("m_ZoomOut_Action", QStringLiteral(":/image/zoomout.png"), SLOT(ZoomOut()));
+    m_ZoomReset_Action =
+        newAction("m_ZoomReset_Action", QStringLiteral(":/image/zoomreset.png"), SLOT(ZoomReset()));
+    m_ConfigReset_Action =
+        newAction("m_ConfigReset_Action", QStringLiteral(":/image/editundo.png"), SLOT(ConfigReset()));
+    TranslatorUI();
+}
+
+QAction* ZN64PLLConfig::newAction(const char* memberName, const QString& icon, const char* slot)
+{
+    QAction* action = named(memberName, new QAction(this));
+    action->setFont(QFont(QStringLiteral("Arial"), 11, 0));
+    action->setIcon(QIcon(icon));
+    connect(action, SIGNAL(triggered()), this, slot);
+    return action;
+}
+
+void ZN64PLLConfig::createToolBar()
+{
+    m_ToolBar = named("m_ToolBar", new QToolBar);
+    m_ToolBar->setStyleSheet(
+        QStringLiteral("QToolBar{background-color: rgb(255, 255, 255); spacing: 30px;}"));
+    m_ToolBar->addAction(m_ZoomIn_Action);
+    m_ToolBar->addAction(m_ZoomReset_Action);
+    m_ToolBar->addAction(m_ZoomOut_Action);
+    // A gap in front of the command that is no zoom.
+    m_ToolBar->addWidget(new QLabel(this));
+    m_ToolBar->addAction(m_ConfigReset_Action);
+
+    auto* row = new QHBoxLayout;
+    row->addItem(new QSpacerItem(50, 40, QSizePolicy::Expanding, QSizePolicy::Fixed));
+    row->addWidget(m_ToolBar);
+    row->addItem(new QSpacerItem(50, 40, QSizePolicy::Expanding, QSizePolicy::Fixed));
+    m_toolBarGroupBox = named("m_toolBarGroupBox", new QGroupBox(this));
+    m_toolBarGroupBox->setLayout(row);
+    m_toolBarGroupBox->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255); border: none;"));
+    m_toolBarGroupBox->hide();
+}
+
+void ZN64PLLConfig::TranslatorUI()
+{
+    m_ZoomIn_Action->setText(tr("Zoom in"));
+    m_ZoomOut_Action->setText(tr("Zoom out"));
+    m_ZoomReset_Action->setText(tr("Zoom Reset"));
+    m_ConfigReset_Action->setText(tr("Config Reset"));
+}
+
+bool ZN64PLLConfig::newConfig(ZN64MCUSERIALS series)
+{
+    if (!hasSeriesPage(series)) {
+        showNotSupported();
+        return false;
+    }
+    m_MCUSerial = series;
+    m_toolBarGroupBox->show();
+    NewMCUConfig(series);
+    ZoomReset();
+    InitParameters();
+    return true;
+}
+
+void ZN64PLLConfig::NewMCUConfig(ZN64MCUSERIALS series)
+{
+    AllConfigFormClose();
+    m_pllConfigWidget = createSeriesPage(series, this);
+    if (m_pllConfigWidget)
+        m_main_VBoxLayout->addWidget(named("m_pllConfigWidget", m_pllConfigWidget));
+}
+
+void ZN64PLLConfig::AllConfigFormClose()
+{
+    if (!m_pllConfigWidget)
+        return;
+    m_main_VBoxLayout->removeWidget(m_pllConfigWidget);
+    delete m_pllConfigWidget;
+    m_pllConfigWidget = nullptr;
+}
+
+void ZN64PLLConfig::InitParameters()
+{
+    if (m_pllConfigWidget)
+        m_pllConfigWidget->InitAllControl();
+}
+
+void ZN64PLLConfig::ZoomIn()
+{
+    if (m_pllConfigWidget)
+        m_pllConfigWidget->ZoomIn();
+}
+
+void ZN64PLLConfig::ZoomOut()
+{
+    if (m_pllConfigWidget)
+        m_pllConfigWidget->ZoomOut();
+}
+
+void ZN64PLLConfig::ZoomReset()
+{
+    if (m_pllConfigWidget)
+        m_pllConfigWidget->ZoomReset();
+}
+
+void ZN64PLLConfig::ConfigReset()
+{
+    const int answer =
+        showMessage(QMessageBox::Warning, tr("Warning"),
+                    tr("The current configuration will be reset. Please confirm whether to continue?"),
+                    {
+                        {QMessageBox::Yes,    tr("Yes")   },
+                        {QMessageBox::Cancel, tr("Cancel")}
+    },
+                    this);
+    if (answer != QMessageBox::Cancel)
+        InitParameters();
+}
+
+void ZN64PLLConfig::SaveToFile()
+{
+    if (m_pllConfigWidget)
+        m_pllConfigWidget->SaveToFile(seriesName(m_MCUSerial));
+}
+
+void ZN64PLLConfig::OpenFromFile(const QString& path, QString& seriesName)
+{
+    const QString name = ZN64MCUPLL::GetXMLElementString(path, QStringLiteral("MCU"));
+    const SeriesTraits* traits = seriesByName(name);
+    if (!traits) {
+        m_MCUName = QStringLiteral("");
+        showNotSupported();
+        return;
+    }
+    if (!hasSeriesPage(traits->series)) {
+        // Unlike behind an unknown name, the design that stays keeps its name.
+        if (HaveActivedConfig())
+            seriesName = ::seriesName(m_MCUSerial);
+        showNotSupported();
+        return;
+    }
+    m_MCUName = name;
+    m_MCUSerial = traits->series;
+    m_toolBarGroupBox->show();
+    NewMCUConfig(m_MCUSerial);
+    m_pllConfigWidget->OpenFromFile(path);
+    ZoomReset();
+    seriesName = m_MCUName;
+}
+
+bool ZN64PLLConfig::GenerateCode(GENERATE_CODE_MODE mode)
+{
+    if (!m_pllConfigWidget)
+        return false;
+    m_pllConfigWidget->Set_GenerateCodeMode(mode);
+    return m_pllConfigWidget->GenerateCode();
+}
+
+void ZN64PLLConfig::showNotSupported()
+{
+    showMessage(QMessageBox::Warning, tr("Warning"), tr("MCU in file not supported."),
+                {
+                    {QMessageBox::Ok, tr("Ok")}
+    },
+                this);
+}

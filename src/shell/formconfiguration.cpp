@@ -1,0 +1,154 @@
+#include "shell/formconfiguration.h"
+
+#include "preview/FormCodeView.h"
+#include "shell/ZN64PLLConfig.h"
+#include "shell/version.h"
+#include "widgets/named.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+QString inViewSheet()
+{
+    return QStringLiteral("background-color: rgb(57, 169, 220); color: white");
+}
+
+QString notInViewSheet()
+{
+    return QStringLiteral("background-color: rgb(0, 32, 82); color: white");
+}
+
+} // namespace
+
+FormConfiguration::FormConfiguration(QWidget* parent) : QWidget(parent)
+{
+    setWindowIcon(QIcon(QStringLiteral(":/image/ZN64_tool_CRM.ico.ico")));
+    m_timer = named("m_timer", new QTimer(this));
+    m_main_VBoxlayout = named("m_main_VBoxlayout", new QVBoxLayout(this));
+    CreateActions();
+    CreateMenuBar();
+    CreateTopLayout();
+    CreateMainFuncLayout();
+    createPages();
+    setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
+    setWindowState(Qt::WindowMaximized);
+    setContentsMargins(0, 0, 0, 0);
+    setMinimumSize(1000, 800);
+    setWindowTitle(QStringLiteral("Velmora Clockwright ") + QLatin1String(versionText));
+    connectSlots();
+}
+
+void FormConfiguration::CreateTopLayout()
+{
+    m_picTitle_Label = named("m_picTitle_Label", new QLabel(this));
+    m_picTitle_Label->setPixmap(QPixmap(QStringLiteral(":/image/Logo_1.png")));
+    m_picTitle_Label->setFixedHeight(60);
+
+    m_Title_GroupBox = named("m_Title_GroupBox", new QGroupBox(this));
+    m_Title_GroupBox->setFixedHeight(60);
+    m_Title_GroupBox->setStyleSheet(
+        QStringLiteral("background-color: rgb(255, 255, 255); color: white; border:none"));
+    auto* box = new QVBoxLayout(m_Title_GroupBox);
+    box->addItem(new QSpacerItem(5, 5, QSizePolicy::Fixed, QSizePolicy::Fixed));
+    box->addWidget(m_MenuBar);
+
+    m_Title_HBoxLayout = named("m_Title_HBoxLayout", new QHBoxLayout);
+    m_Title_HBoxLayout->setSpacing(0);
+    m_Title_HBoxLayout->addWidget(m_picTitle_Label);
+    m_Title_HBoxLayout->addItem(new QSpacerItem(10, 10, QSizePolicy::Fixed, QSizePolicy::Expanding));
+    m_Title_HBoxLayout->addWidget(m_Title_GroupBox, 0, Qt::AlignLeft | Qt::AlignBottom);
+    m_Title_HBoxLayout->addItem(new QSpacerItem(10, 10, QSizePolicy::Expanding, QSizePolicy::Expanding));
+    m_main_VBoxlayout->addLayout(m_Title_HBoxLayout, 0);
+}
+
+void FormConfiguration::CreateMainFuncLayout()
+{
+    const QFont font(QStringLiteral("Arial"), 13, QFont::Bold);
+    m_ClockConfig_PushButton =
+        named("m_ClockConfig_PushButton", new QPushButton(tr("Clock Configuration"), this));
+    m_ClockConfig_PushButton->setFont(font);
+    m_ClockConfig_PushButton->setStyleSheet(inViewSheet());
+    m_CodeView_PushButton = named("m_CodeView_PushButton", new QPushButton(tr("Code View"), this));
+    m_CodeView_PushButton->setFont(font);
+    m_CodeView_PushButton->setStyleSheet(notInViewSheet());
+
+    m_Mainfunc_HBoxLayout = named("m_Mainfunc_HBoxLayout", new QHBoxLayout);
+    m_Mainfunc_HBoxLayout->setSpacing(1);
+    m_Mainfunc_HBoxLayout->addWidget(m_ClockConfig_PushButton);
+    m_Mainfunc_HBoxLayout->addWidget(m_CodeView_PushButton);
+    m_main_VBoxlayout->addLayout(m_Mainfunc_HBoxLayout, 1);
+}
+
+void FormConfiguration::createPages()
+{
+    m_clockConfigForm = named("m_clockConfigForm", new ZN64PLLConfig);
+    m_main_VBoxlayout->addWidget(m_clockConfigForm, 2);
+    m_codeViewForm = named("m_codeViewForm", new FormCodeView(this));
+    m_main_VBoxlayout->addWidget(m_codeViewForm, 3);
+    m_codeViewForm->hide();
+}
+
+void FormConfiguration::connectSlots()
+{
+    connect(m_ClockConfig_PushButton, SIGNAL(clicked()), this, SLOT(ClockConfig_PushButton_Slot()));
+    connect(m_CodeView_PushButton, SIGNAL(clicked()), this, SLOT(CodeView_PushButton_Clicked()));
+    connect(m_New_Action, SIGNAL(triggered()), this, SLOT(NewDesign_Slot()));
+    connect(m_Open_Action, SIGNAL(triggered()), this, SLOT(OpenDesign_Slot()));
+    connect(m_Save_Action, SIGNAL(triggered()), this, SLOT(SaveDesign_Slot()));
+    connect(m_English_Action, SIGNAL(triggered()), this, SLOT(SetLanguage_English_Slot()));
+    connect(m_Chinese_Action, SIGNAL(triggered()), this, SLOT(SetLanguage_Chinese_Slot()));
+    connect(m_GeneralCode_Action, SIGNAL(triggered()), this, SLOT(GenerateCode_Slot()));
+    connect(m_OpenManual_Action, SIGNAL(triggered()), this, SLOT(OpenManual_Slot()));
+    connect(m_NewVersionDownload_Action, SIGNAL(triggered()), this, SLOT(NewVersionDownload_Slot()));
+    connect(m_Version_Action, SIGNAL(triggered()), this, SLOT(OpenAbout_Slot()));
+}
+
+void FormConfiguration::ClockConfig_PushButton_Slot()
+{
+    if (m_clockConfigForm && m_codeViewForm && m_clockConfigForm->isHidden())
+        showClockPage();
+}
+
+void FormConfiguration::CodeView_PushButton_Clicked()
+{
+    if (!m_clockConfigForm || !m_codeViewForm || !m_codeViewForm->isHidden())
+        return;
+    QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/Code_Sample");
+    if (GeneralCode_For_CodeView(folder) != 0) {
+        showClockPage();
+        return;
+    }
+    m_codeViewForm->LoadCode(m_MCUSerials, folder);
+    showCodePage();
+}
+
+void FormConfiguration::showClockPage()
+{
+    m_clockConfigForm->show();
+    m_ClockConfig_PushButton->setStyleSheet(inViewSheet());
+    m_codeViewForm->hide();
+    m_CodeView_PushButton->setStyleSheet(notInViewSheet());
+}
+
+void FormConfiguration::showCodePage()
+{
+    m_clockConfigForm->hide();
+    m_ClockConfig_PushButton->setStyleSheet(notInViewSheet());
+    m_codeViewForm->show();
+    m_CodeView_PushButton->setStyleSheet(inViewSheet());
+}
+
+void FormConfiguration::showSeriesOnButton()
+{
+    m_ClockConfig_PushButton->setText(tr("Clock Configuration") + tr("---") + m_MCUSerials);
+}

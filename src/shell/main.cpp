@@ -1,0 +1,26 @@
+#include "shell/formconfiguration.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QTranslator>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+
+    QTranslator translator;
+    const LANGUAGE language = QLocale().language() == QLocale::Chinese ? UI_ZH : UI_EN;
+    const bool loaded = translator.load(translationTable(language));
+
+    QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/ZN64_tool_CRM.ico.ico")));
+    if (loaded)
+        QCoreApplication::installTranslator(&translator);
+
+    FormConfiguration form;
+    form.SetLanguage(language);
+    form.SetQTranslator(&translator);
+    form.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,152 @@
+#include "shell/MCUSelect_Form.h"
+#include "widgets/dialoganswers.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+class TestSeriesDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void lineListRefillsTheSeriesList_data();
+    void lineListRefillsTheSeriesList();
+    void typedNameMovesTheLists_data();
+    void typedNameMovesTheLists();
+    void pickingFromTheCompleterIgnoresTheCase();
+    void searchOffersTheDevicesOfTheLinesOnly();
+    void endsWithTheSeriesShownOrWithNothing_data();
+    void endsWithTheSeriesShownOrWithNothing();
+
+private:
+    QComboBox* box(const char* name) { return m_dialog->findChild<QComboBox*>(QLatin1String(name)); }
+    QString line() { return box("m_ProductLine_ComboBox")->currentText(); }
+    QString series() { return box("m_MCUSerial_ComboBox")->currentText(); }
+    QLineEdit* search() { return box("m_QueryDevice_ComboBox")->lineEdit(); }
+
+    QScopedPointer<MCUSelect_Form> m_dialog;
+};
+
+void TestSeriesDialog::init()
+{
+    m_dialog.reset(new MCUSelect_Form(nullptr));
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.data()));
+}
+
+void TestSeriesDialog::lineListRefillsTheSeriesList_data()
+{
+    QTest::addColumn<QString>("devices");
+    const auto row = [](const char* line, const char* devices) {
+        QTest::newRow(line) << QString::fromLatin1(devices);
+    };
+    row("Mainstream", "ZN64G171 ZN64G110R ZN64G174 ZN64G114 ZN64G120 ZN64G165 ZN64G166 ZN64G167");
+    row("Value line", "ZN64G125 ZN64G130 ZN64G133 ZN64G135");
+    row("High performance", "ZN64G150 ZN64G152");
+    row("Automotive", "ZN64H110R ZN64H133");
+    row("Low Power", "ZN64D042");
+    row("Wireless BLE", "ZN64TQ125");
+    row("Motor", "ZN64P212 ZN64P216");
+}
+
+void TestSeriesDialog::lineListRefillsTheSeriesList()
+{
+    QFETCH(QString, devices);
+    // From another line, so that there is a change to react to.
+    box("m_ProductLine_ComboBox")->setCurrentIndex(line() == QLatin1String(QTest::currentDataTag()) ? 1 : 0);
+    box("m_ProductLine_ComboBox")->setCurrentText(QLatin1String(QTest::currentDataTag()));
+
+    QStringList shown;
+    for (int i = 0; i < box("m_MCUSerial_ComboBox")->count(); ++i)
+        shown += box("m_MCUSerial_ComboBox")->itemText(i);
+    QCOMPARE(shown.join(QLatin1Char(' ')), devices);
+}
+
+void TestSeriesDialog::typedNameMovesTheLists_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("series");
+    const auto row = [](const char* name, const char* typed, const char* line, const char* series) {
+        QTest::newRow(name) << QString::fromLatin1(typed) << QString::fromLatin1(line)
+                            << QString::fromLatin1(series);
+    };
+    row("another line", "ZN64G152", "High performance", "ZN64G152");
+    row("the line shown", "ZN64G167", "Mainstream", "ZN64G167");
+    row("wrong case", "zn64g152", "Mainstream", "ZN64G171");
+    row("part of a name", "ZN64G15", "Mainstream", "ZN64G171");
+    row("series for files only", "ZN64G190", "Mainstream", "ZN64G171");
+    row("no device", "clock", "Mainstream", "ZN64G171");
+}
+
+void TestSeriesDialog::typedNameMovesTheLists()
+{
+    QFETCH(QString, typed);
+    search()->setFocus();
+    QTest::keyClicks(search(), typed);
+    search()->completer()->popup()->hide();
+    QTest::keyClick(search(), Qt::Key_Tab);
+
+    QVERIFY(!search()->hasFocus());
+    QTEST(line(), "line");
+    QTEST(series(), "series");
+    QCOMPARE(search()->text(), typed);
+    QCOMPARE(box("m_QueryDevice_ComboBox")->count(), 20);
+}
+
+void TestSeriesDialog::pickingFromTheCompleterIgnoresTheCase()
+{
+    search()->setFocus();
+    QTest::keyClicks(search(), QStringLiteral("h133"));
+    QAbstractItemView* popup = search()->completer()->popup();
+    QTRY_VERIFY(popup->isVisible());
+    QCOMPARE(popup->model()->rowCount(), 1);
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::keyClick(popup, Qt::Key_Return);
+
+    QTRY_COMPARE(series(), QStringLiteral("ZN64H133"));
+    QCOMPARE(line(), QStringLiteral("Automotive"));
+}
+
+void TestSeriesDialog::searchOffersTheDevicesOfTheLinesOnly()
+{
+    const QComboBox* query = box("m_QueryDevice_ComboBox");
+    QVERIFY(query->currentText().isEmpty());
+    QStringList offered;
+    for (int i = 0; i < query->count(); ++i)
+        offered += query->itemText(i);
+    QStringList devices = m_dialog->GetAllDevicesName();
+    QCOMPARE(devices.size(), 20);
+    devices.sort();
+    QCOMPARE(offered, devices);
+    for (const char* absent : {"ZN64G110", "ZN64G190", "ZN64G142", "ZN64G146"})
+        QVERIFY2(!offered.contains(QLatin1String(absent)), absent);
+}
+
+void TestSeriesDialog::endsWithTheSeriesShownOrWithNothing_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("series");
+    QTest::newRow("ok, untouched") << QStringLiteral("OK") << 1 << QStringLiteral("ZN64G171");
+    QTest::newRow("cancel") << QStringLiteral("Cancel") << 0 << QString();
+    QTest::newRow("close button") << QString() << 0 << QString();
+}
+
+void TestSeriesDialog::endsWithTheSeriesShownOrWithNothing()
+{
+    QFETCH(QString, button);
+    m_dialog->hide();
+    DialogAnswers answers{button.isEmpty() ? DialogAnswers::close()
+                                           : DialogAnswers::press(button.toLatin1().constData())};
+    QTEST(m_dialog->exec(), "result");
+    QTEST(m_dialog->m_MCUName, "series");
+}
+
+QTEST_MAIN(TestSeriesDialog)
+#include "tst_seriesdialog.moc"
