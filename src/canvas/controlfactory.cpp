@@ -16,12 +16,26 @@ QFont arial(int pointSize, int weight)
     return QFont(QStringLiteral("Arial"), pointSize, weight);
 }
 
-/// The top-level widget that a proxy embeds. Unlike a plain dialog it does not vanish on Escape.
+/// The top-level widget that a proxy embeds. Unlike a plain dialog it does not vanish on Escape, and it
+/// follows its control when that grows or shrinks, so that it covers no wire of the picture.
 class ControlWrapper : public QDialog
 {
 public:
     using QDialog::QDialog;
     void reject() override {}
+
+protected:
+    bool event(QEvent* event) override
+    {
+        const bool handled = QDialog::event(event);
+        if (event->type() == QEvent::LayoutRequest) {
+            // The proxy keeps the bounds of the size that it saw first until it is told to ask again.
+            if (graphicsProxyWidget())
+                static_cast<QGraphicsLayoutItem*>(graphicsProxyWidget())->updateGeometry();
+            resize(sizeHint());
+        }
+        return handled;
+    }
 };
 
 } // namespace
@@ -32,8 +46,6 @@ QDialog* ZN64MCUPLL::embed(QWidget* control, int x, int y, QGraphicsProxyWidget*
     wrapper->setContentsMargins(0, 0, 0, 0);
     auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
-    // The wrapper is never larger than its control, so that it covers no wire of the picture.
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     wrapper->setLayout(layout);
     layout->addWidget(control);
     QGraphicsProxyWidget* item = m_GraphicsScene->addWidget(wrapper);

@@ -1,6 +1,8 @@
 #include "seriespages.h"
 
 #include "ZN64G110PLL.h"
+#include "ZN64G150PLL.h"
+#include "ZN64G152PLL.h"
 
 #include <algorithm>
 #include <iterator>
@@ -21,6 +23,8 @@ ClockTreePage* make(QWidget* parent)
 
 const SeriesPage pages[] = {
     {ZN64G110, make<ZN64G110PLL>},
+    {ZN64G150, make<ZN64G150PLL>},
+    {ZN64G152, make<ZN64G152PLL>},
 };
 
 const SeriesPage* find(ZN64MCUSERIALS series)

@@ -101,11 +101,12 @@ void FlexiblePllBlock::New_pll_fr()
 
 void FlexiblePllBlock::New_pll_CFG()
 {
-    m_pllCFG_Label = label(QStringLiteral("m_pllCFG_Label"));
+    // The edit's frame reaches below the end of the label: the label lies on top.
     m_pllCFG_Value_lineEdit = page().placeEdit(QStringLiteral("m_pllCFG_Value_lineEdit"));
     m_pllCFG_Value_lineEdit->setReadOnly(true);
     m_pllCFG_Value_lineEdit->setFixedSize(registerWidth, registerHeight);
     m_pllCFG_Value_lineEdit->setStyleSheet(styles::registerValue());
+    m_pllCFG_Label = label(QStringLiteral("m_pllCFG_Label"));
 }
 
 void FlexiblePllBlock::ControlsConnectSlots()
