@@ -58,7 +58,7 @@ bool ZN64ConfigCLK::hick_isEnable() const
 
 bool ZN64ConfigCLK::peripheralUsesPll(unsigned user) const
 {
-    // PCLK counts too: it is the PLL's other output, on its way to three CAN blocks. So it is meant.
+    // With three CAN blocks PCLK counts as the PLL's user too, with one it does not. Both are meant.
     const auto pllOrPclk = [](bool on, CAN_CLOCK_SOURCE source) {
         return on && (source == CAN_CLOCK_SOURCE_PCLK || source == CAN_CLOCK_SOURCE_PLL);
     };

@@ -8,7 +8,8 @@
 struct FlexiblePll
 {
     const char* word;
-    bool usb, fp;
+    int usbSwitch, hickToUsb;
+    bool fp;
     double vcoTop;
     double factor; // from the system clock to the PLL
 };
@@ -126,20 +127,20 @@ void TestSolvers::usbFollowsSysclk()
 void TestSolvers::flexiblePll_data()
 {
     QTest::addColumn<FlexiblePll>("pll");
-    QTest::newRow("FR") << FlexiblePll{"G125", true, false, 1000.0, 1.0};
-    QTest::newRow("FR, 1200") << FlexiblePll{"G150", true, false, 1200.0, 1.0};
-    QTest::newRow("half") << FlexiblePll{"G133", true, false, 1000.0, 2.0};
-    QTest::newRow("FP, USB") << FlexiblePll{"G171", true, true, 960.0, 1.0};
-    QTest::newRow("FP") << FlexiblePll{"G171", false, true, 1000.0, 1.0};
-    QTest::newRow("FP, 1200, USB") << FlexiblePll{"G165", true, true, 960.0, 1.0};
-    QTest::newRow("FP, 1200") << FlexiblePll{"G165", false, true, 1200.0, 1.0};
+    QTest::newRow("FR") << FlexiblePll{"G125", 0, 0, false, 1000.0, 1.0};
+    QTest::newRow("FR, 1200") << FlexiblePll{"G150", 0, 0, false, 1200.0, 1.0};
+    QTest::newRow("half") << FlexiblePll{"G133", 0, 0, false, 1000.0, 2.0};
+    QTest::newRow("FP, USB off") << FlexiblePll{"G171", 1, 0, true, 1000.0, 1.0};
+    QTest::newRow("FP, 1200, USB on hick") << FlexiblePll{"G165", 0, 1, true, 1200.0, 1.0};
+    QTest::newRow("FP, 1200, USB") << FlexiblePll{"G165", 0, 0, true, 960.0, 1.0};
 }
 
 void TestSolvers::flexiblePll()
 {
     QFETCH(FlexiblePll, pll);
     ZN64ConfigCLK model = modelOf(QLatin1String(pll.word));
-    model.Set_TO_USB_Switch(pll.usb ? TO_USB_SWITCH_ENABLE : TO_USB_SWITCH_DISABLE);
+    model.Set_TO_USB_Switch(pll.usbSwitch);
+    model.Set_HICK_TO_USB(pll.hickToUsb);
     compareNsRanges(model, pll.vcoTop);
     if (!QTest::currentTestFailed())
         compareSearches(model, pll);

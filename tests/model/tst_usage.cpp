@@ -53,11 +53,11 @@ static Setup out(CLKOUT source, int pin = CLKOUTPIN_PE4)
         [=](auto& m) { m.Set_SYSCLKSelect(SYSCLK_HICK), m.Set_CLKOUT(source), m.Set_CLKOUT_PinSelect(pin); };
 }
 
-static Setup can(CAN_CLOCK_SOURCE source, bool first)
+static Setup can(int number, CAN_CLOCK_SOURCE source)
 {
     return [=](auto& m) {
-        m.Set_CAN1_Switch(first), m.Set_can1_Clock_Source(source);
-        m.Set_CAN3_Switch(!first), m.Set_can3_Clock_Source(source);
+        m.Set_CAN1_Switch(number == 1), m.Set_CAN2_Switch(number == 2), m.Set_CAN3_Switch(number == 3);
+        m.Set_can1_Clock_Source(source), m.Set_can2_Clock_Source(source), m.Set_can3_Clock_Source(source);
     };
 }
 
@@ -85,10 +85,11 @@ void TestUsage::pll_data()
     row("adc", "G133 H133",
         [](auto& m) { m.Set_ToADC_Switch(true), m.Set_adc_Clock_Source(ADC_CLOCK_SOURCE_PLLCLK); });
     row("i2sf5", "G171 G174 G190 G165 G166 G167", [](auto& m) { m.Set_I2SF5_Switch(true); });
-    row("can1", "G165 G166 G167 " P_SERIES, can(CAN_CLOCK_SOURCE_PLL, true));
-    row("can1 on PCLK", "G165 G166 G167", can(CAN_CLOCK_SOURCE_PCLK, true));
-    row("can3", "G165 G166 G167", can(CAN_CLOCK_SOURCE_PLL, false));
-    row("can3 on hext", "", can(CAN_CLOCK_SOURCE_HEXT, false));
+    row("can1", "G165 G166 G167 " P_SERIES, can(1, CAN_CLOCK_SOURCE_PLL));
+    row("can1 on PCLK", "G165 G166 G167", can(1, CAN_CLOCK_SOURCE_PCLK));
+    row("can2", "G165 G166 G167", can(2, CAN_CLOCK_SOURCE_PLL));
+    row("can3", "G165 G166 G167", can(3, CAN_CLOCK_SOURCE_PCLK));
+    row("can3 on hext", "", can(3, CAN_CLOCK_SOURCE_HEXT));
 }
 
 void TestUsage::oscillators_data()
@@ -99,6 +100,7 @@ void TestUsage::oscillators_data()
     const auto hick = &ZN64ConfigCLK::hick_isEnable;
     const auto hextdiv = &ZN64ConfigCLK::hextdiv_isEnable;
     const Setup onHick = [](auto& m) { m.Set_SYSCLKSelect(SYSCLK_HICK); };
+    const Setup usbOn = [](auto& m) { m.Set_TO_USB_Switch(0); };
     const Setup usbPllHick = [](auto& m) { m.Set_TO_USB_Switch(0), m.Set_PLLRC(PLLRC_HICK); };
     const Setup out2PllHick = [](auto& m) { out2(m), m.Set_PLLRC(PLLRC_HICK); };
     QTest::newRow("usbpll") << Answer{usbpll, "G110 " CLASSIC_USB DUAL NEW_USB P_SERIES, usb};
@@ -113,6 +115,7 @@ void TestUsage::oscillators_data()
     QTest::newRow("hext: PLL output") << Answer{hext, "", out(CLKOUT_PLL)};
     QTest::newRow("hext: PLL / 2 output") << Answer{hext, SINGLE_OUTPUT, out(CLKOUT_PLLDIV2)};
     QTest::newRow("hick: idle") << Answer{hick, "", out2};
+    QTest::newRow("hick: PLL from hext") << Answer{hick, "", usbOn};
     QTest::newRow("hick: PLL") << Answer{hick, ALL, onPllHick};
     QTest::newRow("hick: usb") << Answer{hick, CLASSIC_USB DUAL NEW_USB, usbHick};
     QTest::newRow("hick: usb by PLL") << Answer{hick, "G110 " CLASSIC_USB DUAL NEW_USB, usbPllHick};
