@@ -18,6 +18,19 @@ QUrl urlFromText(const QString& text)
     return QUrl::fromUserInput(text.trimmed());
 }
 
+// Tries again after a short write: only the write that takes nothing sets the file's error string.
+bool writeAll(QFile& file, const QByteArray& data)
+{
+    qint64 written = 0;
+    while (written < data.size()) {
+        const qint64 taken = file.write(data.constData() + written, data.size() - written);
+        if (taken <= 0)
+            return false;
+        written += taken;
+    }
+    return true;
+}
+
 bool isWebAddress(const QUrl& url)
 {
     return url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
@@ -101,7 +114,8 @@ bool HttpsDownload::mayReplace(const QString& path)
 QFile* HttpsDownload::openFileForWrite(const QString& path)
 {
     auto opened = std::make_unique<QFile>(path);
-    if (opened->open(QIODevice::WriteOnly))
+    // Unbuffered, so that a full disk shows at the write and not when the file is closed.
+    if (opened->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return opened.release();
     showError(tr("Unable to save the file ") + path);
     return nullptr;
@@ -152,8 +166,7 @@ void HttpsDownload::httpReadyRead()
 {
     if (file == nullptr)
         return;
-    const QByteArray data = reply->readAll();
-    if (file->write(data) == data.size() && file->flush())
+    if (writeAll(*file, reply->readAll()))
         return;
     m_writeError = file->errorString();
     // Ends in httpFinished before it returns.
@@ -265,8 +278,13 @@ void HttpsDownload::sslErrors(QNetworkReply* failing, const QList<QSslError>& er
             {QMessageBox::Ignore, tr("Ignore")},
             {QMessageBox::Abort,  tr("Abort") }
     });
-    if (answer == QMessageBox::Ignore && !guard.isNull())
+    if (guard.isNull())
+        return;
+    if (answer == QMessageBox::Ignore)
         guard->ignoreSslErrors();
+    else
+        // Without verification Qt would go on by itself, against the user's word.
+        guard->abort();
 }
 
 // Nothing is given, so a server that wants a password fails the request.
