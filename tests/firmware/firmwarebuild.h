@@ -24,7 +24,8 @@ struct Run
 /// Generates the four files of the stem below the base folder, as the preview does: without questions.
 bool generate(ZN64ConfigCLK& clock, const QString& base, const QString& stem);
 
-/// Compiles both sources below the base folder with all warnings as errors. Empty if they compile.
+/// Compiles both sources below the base folder with warnings as errors, but for an unused delay function.
+/// Empty if they compile.
 QString compile(const QString& base, const QString& stem);
 
 /// Compiles, links and runs the program below the base folder up to its endless loop.
