@@ -19,15 +19,16 @@ class DialogAnswers : public QObject
 public:
     using Answer = std::function<void(QDialog*)>;
 
-    explicit DialogAnswers(std::initializer_list<Answer> answers) : m_answers(answers)
+    explicit DialogAnswers(std::initializer_list<Answer> answers = {}) : m_answers(answers)
     {
         m_timer.callOnTimeout(this, [this] { look(); });
         m_timer.start(2);
     }
 
+    void add(const Answer& answer) { m_answers.append(answer); }
+
     /// One line per dialog: "icon | title | text | buttons" of a message box, the title of any other.
     const QStringList& shown() const { return m_shown; }
-    bool allGiven() const { return m_answers.isEmpty(); }
 
     /// Presses the message box button of this text.
     static Answer press(const char* text)
@@ -55,7 +56,7 @@ public:
         };
     }
 
-private:
+    /// The line that shown() keeps of a dialog.
     static QString describe(const QDialog* dialog)
     {
         const auto* box = qobject_cast<const QMessageBox*>(dialog);
@@ -71,6 +72,7 @@ private:
             .join(QStringLiteral(" | "));
     }
 
+private:
     void look()
     {
         QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
