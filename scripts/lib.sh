@@ -61,6 +61,6 @@ run_tour() {
     local folder="build/$1/tour"
     rm -rf "$folder"
     say "Running the tour on a virtual display"
-    xvfb-run -a -s '-screen 0 1600x1000x24' "build/$1/bin/tour" "$folder" || die "the tour failed"
+    xvfb-run -a -s '-screen 0 1600x1000x24' "build/$1/bin/tour" || die "the tour failed"
     say "The tour left its pictures and files in $PWD/$folder"
 }

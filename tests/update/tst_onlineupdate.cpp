@@ -20,6 +20,7 @@ private slots:
     void init();
     void flow_data();
     void flow();
+    void opensTheFolder_data();
     void opensTheFolder();
     void listStaysOffTheDisk_data();
     void listStaysOffTheDisk();
@@ -192,25 +193,31 @@ void TestOnlineUpdate::flow()
              boxes.constFirst() == NewVersion && answers.constFirst() == QLatin1String("Ok") ? 1 : 0);
 }
 
+void TestOnlineUpdate::opensTheFolder_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("first button") << " Open Folder  " << true;
+    QTest::newRow("second button") << "OK" << false;
+    QTest::newRow("box closed") << QString() << false;
+}
+
 void TestOnlineUpdate::opensTheFolder()
 {
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "folderOpened");
+    QFETCH(QString, answer);
+    QFETCH(bool, opens);
     const QByteArray address = m_server->url(QStringLiteral("/files/zh.zip")).toLatin1();
     serveList(listOf("3.0.18", address, address));
-    BoxWatcher watcher({QStringLiteral("Ok"), QStringLiteral(" Open Folder  ")});
+    BoxWatcher watcher({QStringLiteral("Ok"), answer});
     chooseFolder(watcher, true);
-    OnlineUpdate(&m_form, site(true)).OnlineDownload();
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-    QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(m_chosen->path() + QLatin1Char('/'))});
-
-    m_opened.clear();
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "folderOpened");
-    BoxWatcher closing({QStringLiteral("Ok"), QStringLiteral("Ok"), QString()});
-    chooseFolder(closing, true);
     OnlineUpdate(&m_form, site(true)).OnlineDownload();
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-    QCOMPARE(closing.seen().size(), 3); // the question about the version, the one about the file, the end
-    QCOMPARE(m_opened, QList<QUrl>());
+
+    const QUrl folder = QUrl::fromLocalFile(m_chosen->path() + QLatin1Char('/'));
+    QCOMPARE(watcher.seen(),
+             (QStringList{NewVersion, stored(m_chosen->filePath(QStringLiteral("zh_V3.0.18.zip")))}));
+    QCOMPARE(m_opened, opens ? QList<QUrl>{folder} : QList<QUrl>());
 }
 
 void TestOnlineUpdate::listStaysOffTheDisk_data()
