@@ -171,6 +171,11 @@ void FragmentsTest::mainFileRows()
             c.Set_ToADC_Switch(true);
             c.Set_adc_Clock_Source(ADC_CLOCK_SOURCE_PLLCLK);
         });
+    row("crystal, its line once and with its blanks", ZN64G174, &Clock::GenerateCode_hextdefine,
+        "#define  HEXT_VALUE \t ((uint32_t)12000000) /* x */\n#define HICK_VALUE ((uint32_t)12000000)\n",
+        "#define  HEXT_VALUE \t ((uint32_t)8000000) /* x */\n#define HICK_VALUE ((uint32_t)12000000)\n");
+    row("crystal of another default", ZN64G165, &Clock::GenerateCode_hextdefine,
+        "#define HEXT_VALUE ((uint32_t)12000000)\n", nullptr);
     row("an inner miss leaves its markers", ZN64G125, &Clock::GenerateCode_rtc,
         "[#rtc function]\n[#rtc lick]\na\n[/#rtc lick]\n[#rtc lext]\nb\n[/#rtc lext]\n[/#rtc function]\n",
         "[#rtc lext]\nb\n[/#rtc lext]\n\n", [](Clock& c) {

@@ -13,7 +13,6 @@ class GoldenTest : public QObject
 private slots:
     void matches_data();
     void matches();
-    void rewritesTheCrystalOnce();
 };
 
 namespace {
@@ -60,18 +59,6 @@ void GoldenTest::matches()
         QVERIFY2(made[i] == wanted[i],
                  qPrintable(QStringLiteral("line %1: '%2', not '%3'").arg(i + 1).arg(made[i], wanted[i])));
     QCOMPARE(made.size(), wanted.size());
-}
-
-void GoldenTest::rewritesTheCrystalOnce()
-{
-    QString text = QStringLiteral("#define  HEXT_VALUE \t ((uint32_t)12000000) /* x */\n"
-                                  "#define HICK_VALUE ((uint32_t)12000000)\n");
-    ZN64ConfigCLK clock(ZN64G174); // 8 MHz, with a template of 12 MHz
-    QVERIFY(clock.GenerateCode_hextdefine(text));
-    QCOMPARE(text, QStringLiteral("#define  HEXT_VALUE \t ((uint32_t)8000000) /* x */\n"
-                                  "#define HICK_VALUE ((uint32_t)12000000)\n"));
-    QVERIFY(!ZN64ConfigCLK(ZN64G165).GenerateCode_hextdefine(
-        text = QStringLiteral("#define HEXT_VALUE ((uint32_t)12000000)")));
 }
 
 QTEST_GUILESS_MAIN(GoldenTest)

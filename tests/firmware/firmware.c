@@ -1,4 +1,4 @@
-/* The stand-in library's bodies. A run prints one line for each call ("crm_ahb_div_set 8"), a line "fault: ..."
+/* The stand-in library's bodies. A run prints one line for each call ("crm_ahb_div_set 8"), a line with "fault:"
    for what a real chip would choke on, and at the end the clocks that are set, in Hz ("= sclk 192000000"). */
 #include FIRMWARE_CHIP_HEADER
 
@@ -10,69 +10,64 @@ int generated_main(void);
 void firmware_loop(const char *condition);
 
 crm_type firmware_crm;
-gpio_type firmware_gpio[8] = {{0}, {1}, {2}, {3}, {4}, {5}, {6}, {7}};
+static gpio_type ports[] = {{0}, {1}, {2}, {3}, {4}, {5}, {6}, {7}};
+gpio_type *const GPIOA = ports, *const GPIOB = ports + 1, *const GPIOC = ports + 2, *const GPIOD = ports + 3;
+gpio_type *const GPIOE = ports + 4, *const GPIOF = ports + 5, *const GPIOG = ports + 6, *const GPIOH = ports + 7;
 
 static int running[6]; /* by crm_flag_type, whose first values agree with crm_clock_source_type */
 static int periph[10], polls, faults, pll_set, domain_open, step_mode, hick48, sclk, usb_source;
-static int ahb = 1, apb1 = 1, apb2 = 1, apb3 = 1, usb_half_steps = 2, hext_sclk = 1, hick_sclk = 1, hext_div = 2;
+static int ahb = 1, apb1 = 1, apb2 = 1, apb3 = 1, usb_half_steps = 2, hext_sclk = 1, hick_sclk = 1,
+           hext_div = 2;
 static int pll_source, fu = 11, unused;
 static double pll_ratio, vco_ratio;
 
 /* what a real chip would choke on is a fault when it does not hold */
-static void require(int good, const char *text)
-{
-  if(!good)
+static void require(int good, const char *text) {
+  if (!good)
     faults += printf("fault: %s\n", text);
 }
 
-static double hick_to_sclk(void)
-{
+static double hick_to_sclk(void) {
   return FIRMWARE_HICK_HZ > 8e6 && !hick48 ? FIRMWARE_HICK_HZ / 6 : FIRMWARE_HICK_HZ;
 }
 
-static double pll_input(void)
-{
-  if(pll_source == CRM_PLL_SOURCE_HICK)
+static double pll_input(void) {
+  if (pll_source == CRM_PLL_SOURCE_HICK)
     return FIRMWARE_HICK_HZ / FIRMWARE_HICK_TO_PLL;
   return pll_source == CRM_PLL_SOURCE_HEXT ? HEXT_VALUE : (double)HEXT_VALUE / hext_div;
 }
 
-static double sclk_hz(int source)
-{
-  if(source == CRM_SCLK_PLL)
+static double sclk_hz(int source) {
+  if (source == CRM_SCLK_PLL)
     return pll_input() * pll_ratio;
   return source == CRM_SCLK_HEXT ? (double)HEXT_VALUE / hext_sclk : hick_to_sclk() / hick_sclk;
 }
 
-static double usb_hz(void)
-{
-  if(usb_source == CRM_USB_CLOCK_SOURCE_PLL)
+static double usb_hz(void) {
+  if (usb_source == CRM_USB_CLOCK_SOURCE_PLL)
     return sclk_hz(CRM_SCLK_PLL) * 2 / usb_half_steps;
-  if(usb_source == CRM_USB_CLOCK_SOURCE_PLLU)
+  if (usb_source == CRM_USB_CLOCK_SOURCE_PLLU)
     return pll_input() * vco_ratio / fu;
   return usb_source == CRM_USB_CLOCK_SOURCE_HICK ? FIRMWARE_HICK_HZ : 0;
 }
 
-static void finish(void)
-{
+static void finish(void) {
   const double s = sclk_hz(sclk);
 
-  printf("= sclk %.0f\n= ahb %.0f\n= apb1 %.0f\n= apb2 %.0f\n= apb3 %.0f\n= usb %.0f\n", s, s / ahb, s / ahb / apb1,
-         s / ahb / apb2, s / ahb / apb3, usb_hz());
+  printf("= sclk %.0f\n= ahb %.0f\n= apb1 %.0f\n= apb2 %.0f\n= apb3 %.0f\n= usb %.0f\n", s, s / ahb,
+         s / ahb / apb1, s / ahb / apb2, s / ahb / apb3, usb_hz());
   printf("= hext %d\n= hick %d\n= pll %d\n= lext %d\n= lick %d\n", running[CRM_CLOCK_SOURCE_HEXT],
          running[CRM_CLOCK_SOURCE_HICK], running[CRM_CLOCK_SOURCE_PLL], running[CRM_CLOCK_SOURCE_LEXT],
          running[CRM_CLOCK_SOURCE_LICK]);
   exit(faults != 0);
 }
 
-void firmware_loop(const char *condition)
-{
-  if(strcmp(condition, "1") == 0)
+void firmware_loop(const char *condition) {
+  if (strcmp(condition, "1") == 0)
     finish();
 }
 
-int main(void)
-{
+int main(void) {
   generated_main();
   require(0, "main came back");
   return 1;
@@ -80,32 +75,27 @@ int main(void)
 
 #define CALL(value) printf("%s %d\n", __func__, (int)(value))
 
-void crm_reset(void)
-{
+void crm_reset(void) {
   printf("%s\n", __func__);
   memset(running, 0, sizeof running);
   running[CRM_CLOCK_SOURCE_HICK] = 1;
   sclk = CRM_SCLK_HICK;
 }
 
-void crm_hext_bypass(confirm_state value)
-{
+void crm_hext_bypass(confirm_state value) {
   CALL(value);
   require(!running[CRM_CLOCK_SOURCE_HEXT], "bypass changed while hext runs");
 }
 
-void crm_lext_bypass(confirm_state value)
-{
+void crm_lext_bypass(confirm_state value) {
   CALL(value);
   require(!running[CRM_CLOCK_SOURCE_LEXT], "bypass changed while lext runs");
   require(domain_open, "lext bypass without access to the battery powered domain");
 }
 
-void crm_clock_source_enable(crm_clock_source_type source, confirm_state state)
-{
+void crm_clock_source_enable(crm_clock_source_type source, confirm_state state) {
   printf("%s %d %d\n", __func__, (int)source, (int)state);
-  if(source == CRM_CLOCK_SOURCE_PLL)
-  {
+  if (source == CRM_CLOCK_SOURCE_PLL) {
     require(pll_set, "pll started without parameters");
     require(running[pll_source == CRM_PLL_SOURCE_HICK ? CRM_CLOCK_SOURCE_HICK : CRM_CLOCK_SOURCE_HEXT],
             "pll started on a source that is off");
@@ -113,59 +103,52 @@ void crm_clock_source_enable(crm_clock_source_type source, confirm_state state)
   running[source] = state;
 }
 
-flag_status crm_flag_get(crm_flag_type flag)
-{
-  if(running[flag])
+flag_status crm_flag_get(crm_flag_type flag) {
+  if (running[flag])
     return SET;
-  if(++polls > 100)
-  {
+  if (++polls > 100) {
     require(0, "waits for a source that is off");
     exit(1);
   }
   return RESET;
 }
 
-error_status crm_hext_stable_wait(void)
-{
+error_status crm_hext_stable_wait(void) {
   return crm_flag_get(CRM_HEXT_STABLE_FLAG) == SET ? SUCCESS : ERROR;
 }
 
-static void set_pll(int source, double ratio)
-{
+static void set_pll(int source, double ratio) {
   require(!running[CRM_CLOCK_SOURCE_PLL], "pll changed while it runs");
   pll_set = 1;
   pll_source = source;
   pll_ratio = ratio;
 }
 
-void firmware_pll_range(crm_pll_clock_source_type source, crm_pll_mult_type mult, crm_pll_output_range_type range)
-{
+void firmware_pll_range(crm_pll_clock_source_type source, crm_pll_mult_type mult,
+                        crm_pll_output_range_type range) {
   printf("crm_pll_config %d %d %d\n", (int)source, (int)mult, (int)range);
   set_pll(source, mult);
-  require((pll_input() * mult > 72e6) == (range == CRM_PLL_OUTPUT_RANGE_GT72MHZ), "wrong output range of the pll");
+  require((pll_input() * mult > 72e6) == (range == CRM_PLL_OUTPUT_RANGE_GT72MHZ),
+          "wrong output range of the pll");
 }
 
-void firmware_pll_mult(crm_pll_clock_source_type source, crm_pll_mult_type mult)
-{
+void firmware_pll_mult(crm_pll_clock_source_type source, crm_pll_mult_type mult) {
   printf("crm_pll_config %d %d\n", (int)source, (int)mult);
   set_pll(source, mult);
 }
 
-void firmware_pll_fr(crm_pll_clock_source_type source, uint16_t ns, uint16_t ms, crm_pll_fr_type fr)
-{
+void firmware_pll_fr(crm_pll_clock_source_type source, uint16_t ns, uint16_t ms, crm_pll_fr_type fr) {
   printf("crm_pll_config %d %d %d %d\n", (int)source, ns, ms, (int)fr);
   set_pll(source, (double)ns / ms / fr);
 }
 
-void firmware_pll_fp(crm_pll_clock_source_type source, uint16_t ns, uint16_t ms, crm_pll_fp_type fp)
-{
+void firmware_pll_fp(crm_pll_clock_source_type source, uint16_t ns, uint16_t ms, crm_pll_fp_type fp) {
   printf("crm_pll_config %d %d %d %d\n", (int)source, ns, ms, (int)fp);
   set_pll(source, (double)ns / ms / fp);
   vco_ratio = (double)ns / ms;
 }
 
-void crm_sysclk_switch(crm_sclk_type source)
-{
+void crm_sysclk_switch(crm_sclk_type source) {
   const int needed[] = {CRM_CLOCK_SOURCE_HICK, CRM_CLOCK_SOURCE_HEXT, CRM_CLOCK_SOURCE_PLL};
 
   CALL(source);
@@ -178,102 +161,79 @@ void crm_sysclk_switch(crm_sclk_type source)
   sclk = source;
 }
 
-crm_sclk_type crm_sysclk_switch_status_get(void)
-{
-  return (crm_sclk_type)sclk;
-}
+crm_sclk_type crm_sysclk_switch_status_get(void) { return (crm_sclk_type)sclk; }
 
-void crm_usb_clock_source_select(crm_usb_clock_source_type source)
-{
+void crm_usb_clock_source_select(crm_usb_clock_source_type source) {
   CALL(source);
   usb_source = source;
   require(running[source == CRM_USB_CLOCK_SOURCE_HICK ? CRM_CLOCK_SOURCE_HICK : CRM_CLOCK_SOURCE_PLL],
           "usb on a source that is off");
 }
 
-void crm_periph_clock_enable(crm_periph_clock_type clock, confirm_state state)
-{
+void crm_periph_clock_enable(crm_periph_clock_type clock, confirm_state state) {
   printf("%s %d %d\n", __func__, (int)clock, (int)state);
   periph[clock] = state;
 }
 
-void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type voltage)
-{
+void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type voltage) {
   CALL(voltage);
   require(periph[CRM_PWC_PERIPH_CLOCK], "ldo without the clock of pwc");
 }
 
-void pwc_battery_powered_domain_access(confirm_state state)
-{
+void pwc_battery_powered_domain_access(confirm_state state) {
   CALL(state);
   require(periph[CRM_PWC_PERIPH_CLOCK], "battery powered domain without the clock of pwc");
   domain_open = state;
 }
 
-void crm_rtc_clock_select(crm_rtc_clock_type source)
-{
+void crm_rtc_clock_select(crm_rtc_clock_type source) {
   CALL(source);
   require(domain_open, "rtc clock without access to the battery powered domain");
   firmware_crm.bpdc_bit.rtcsel = source & 0xF;
 }
 
-void crm_ertc_clock_select(crm_ertc_clock_type source)
-{
+void crm_ertc_clock_select(crm_ertc_clock_type source) {
   printf("%s %d %d\n", __func__, (int)source & 0xF, (int)source >> 4);
   require(domain_open, "ertc clock without access to the battery powered domain");
   firmware_crm.bpdc_bit.ertcsel = source & 0xF;
 }
 
-void gpio_default_para_init(gpio_init_type *init)
-{
-  memset(init, 0, sizeof *init);
-}
+void gpio_default_para_init(gpio_init_type *init) { memset(init, 0, sizeof *init); }
 
-void gpio_init(gpio_type *port, gpio_init_type *init)
-{
+void gpio_init(gpio_type *port, gpio_init_type *init) {
   printf("%s %d %d\n", __func__, port->port, (int)init->gpio_pins);
   require(periph[port->port], "pin set up without the clock of its port");
   require(init->gpio_mode == GPIO_MODE_MUX, "clock output on a pin without mux mode");
 }
 
-void gpio_pin_mux_config(gpio_type *port, gpio_pins_source_type pin, gpio_mux_sel_type mux)
-{
+void gpio_pin_mux_config(gpio_type *port, gpio_pins_source_type pin, gpio_mux_sel_type mux) {
   printf("%s %d %d %d\n", __func__, port->port, (int)pin, (int)mux);
   require(periph[port->port], "pin set up without the clock of its port");
 }
 
-void firmware_clkout_div(crm_clkout_div_type divider)
-{
-  printf("crm_clkout_div_set %d\n", (int)divider);
-}
+void firmware_clkout_div(crm_clkout_div_type divider) { printf("crm_clkout_div_set %d\n", (int)divider); }
 
-void firmware_clkout_two_divs(crm_clkout_div1_type first, crm_clkout_div2_type second)
-{
+void firmware_clkout_two_divs(crm_clkout_div1_type first, crm_clkout_div2_type second) {
   printf("crm_clkout_div_set %d %d\n", (int)first, (int)second);
 }
 
-void firmware_clkout_indexed(crm_clkout_index_type index, crm_clkout_div1_type first, crm_clkout_div2_type second)
-{
+void firmware_clkout_indexed(crm_clkout_index_type index, crm_clkout_div1_type first,
+                             crm_clkout_div2_type second) {
   printf("crm_clkout_div_set %d %d %d\n", (int)index, (int)first, (int)second);
 }
 
-void crm_pllu_output_set(confirm_state state)
-{
+void crm_pllu_output_set(confirm_state state) {
   CALL(state);
   running[CRM_PLLU_STABLE_FLAG] = state && running[CRM_CLOCK_SOURCE_PLL];
 }
 
-#define SETS(name, type, variable) \
-  void name(type value) \
-  { \
-    CALL(value); \
-    variable = (int)value; \
+#define SETS(name, type, variable)                                                                           \
+  void name(type value) {                                                                                    \
+    CALL(value);                                                                                             \
+    variable = (int)value;                                                                                   \
   }
-#define SETS2(name, first_type, second_type) \
-  void name(first_type first, second_type second) \
-  { \
-    printf("%s %d %d\n", __func__, (int)first, (int)second); \
-  }
+#define SETS2(name, first_type, second_type)                                                                 \
+  void name(first_type first, second_type second) { printf("%s %d %d\n", __func__, (int)first, (int)second); }
 #include "calls.h"
 
 void system_core_clock_update(void) {}

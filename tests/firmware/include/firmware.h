@@ -121,15 +121,8 @@ typedef enum { C(A), C(B), C(C), C(D), C(E), C(F), C(G), C(H), CRM_PWC_PERIPH_CL
 
 /* pins */
 typedef struct { int port; } gpio_type;
-extern gpio_type firmware_gpio[8];
-#define GPIOA (&firmware_gpio[0])
-#define GPIOB (&firmware_gpio[1])
-#define GPIOC (&firmware_gpio[2])
-#define GPIOD (&firmware_gpio[3])
-#define GPIOE (&firmware_gpio[4])
-#define GPIOF (&firmware_gpio[5])
-#define GPIOG (&firmware_gpio[6])
-#define GPIOH (&firmware_gpio[7])
+extern gpio_type *const GPIOA, *const GPIOB, *const GPIOC, *const GPIOD, *const GPIOE, *const GPIOF, *const GPIOG,
+    *const GPIOH;
 typedef enum { SIXTEEN(GPIO_PINS_), GPIO_PINS_ALL } gpio_pins_type;
 typedef enum { SIXTEEN(GPIO_PINS_SOURCE) } gpio_pins_source_type;
 typedef enum { SIXTEEN(GPIO_MUX_) } gpio_mux_sel_type;
@@ -138,10 +131,7 @@ typedef enum { GPIO_OUTPUT_PUSH_PULL, GPIO_OUTPUT_OPEN_DRAIN } gpio_output_type;
 typedef enum { GPIO_MODE_INPUT, GPIO_MODE_OUTPUT, GPIO_MODE_MUX } gpio_mode_type;
 typedef enum { GPIO_PULL_NONE, GPIO_PULL_UP } gpio_pull_type;
 typedef struct {
-  gpio_pins_type gpio_pins;
-  gpio_output_type gpio_out_type;
-  gpio_pull_type gpio_pull;
-  gpio_mode_type gpio_mode;
+  gpio_pins_type gpio_pins; gpio_output_type gpio_out_type; gpio_pull_type gpio_pull; gpio_mode_type gpio_mode;
   gpio_drive_type gpio_drive_strength;
 } gpio_init_type;
 
@@ -149,27 +139,19 @@ typedef struct {
 #define SETS2(name, first, second) void name(first, second);
 #include "calls.h"
 
-void crm_reset(void);
-void crm_hext_bypass(confirm_state);
-void crm_lext_bypass(confirm_state);
+void crm_reset(void), system_core_clock_update(void), reduce_power_consumption(void), zn64_board_init(void);
+void crm_hext_bypass(confirm_state), crm_lext_bypass(confirm_state), crm_pllu_output_set(confirm_state);
 void crm_clock_source_enable(crm_clock_source_type, confirm_state);
 error_status crm_hext_stable_wait(void);
 flag_status crm_flag_get(crm_flag_type);
-void crm_pllu_output_set(confirm_state);
 void crm_sysclk_switch(crm_sclk_type);
 crm_sclk_type crm_sysclk_switch_status_get(void);
 void crm_usb_clock_source_select(crm_usb_clock_source_type);
 void crm_periph_clock_enable(crm_periph_clock_type, confirm_state);
-void crm_rtc_clock_select(crm_rtc_clock_type);
-void crm_ertc_clock_select(crm_ertc_clock_type);
-void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type);
-void pwc_battery_powered_domain_access(confirm_state);
-void gpio_default_para_init(gpio_init_type *);
-void gpio_init(gpio_type *, gpio_init_type *);
+void crm_rtc_clock_select(crm_rtc_clock_type), crm_ertc_clock_select(crm_ertc_clock_type);
+void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type), pwc_battery_powered_domain_access(confirm_state);
+void gpio_default_para_init(gpio_init_type *), gpio_init(gpio_type *, gpio_init_type *);
 void gpio_pin_mux_config(gpio_type *, gpio_pins_source_type, gpio_mux_sel_type);
-void system_core_clock_update(void);
-void reduce_power_consumption(void);
-void zn64_board_init(void);
 /* a chip's header gives these the names crm_pll_config, crm_pll_config2 and crm_clkout_div_set */
 void firmware_pll_range(crm_pll_clock_source_type, crm_pll_mult_type, crm_pll_output_range_type);
 void firmware_pll_mult(crm_pll_clock_source_type, crm_pll_mult_type);
