@@ -7,6 +7,9 @@
 #include <QPointer>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWheelEvent>
+
+#include <utility>
 
 namespace {
 
@@ -62,14 +65,28 @@ CustomListView::CustomListView(QWidget* parent) : QListView(parent) {}
 
 void CustomListView::focusInEvent(QFocusEvent* event)
 {
+    m_focused = true;
     emit focusInThis(true);
     QAbstractItemView::focusInEvent(event);
 }
 
 void CustomListView::focusOutEvent(QFocusEvent* event)
 {
-    emit focusInThis(false);
+    tellFocusLost();
     QAbstractItemView::focusOutEvent(event);
+}
+
+void CustomListView::hideEvent(QHideEvent* event)
+{
+    // A list that closes on a scene loses the focus without an event of its own.
+    tellFocusLost();
+    QListView::hideEvent(event);
+}
+
+void CustomListView::tellFocusLost()
+{
+    if (std::exchange(m_focused, false))
+        emit focusInThis(false);
 }
 
 CustomComboBox1::CustomComboBox1(QWidget* parent)
@@ -96,7 +113,11 @@ void CustomComboBox1::mousePressEvent(QMouseEvent* event)
     QComboBox::mousePressEvent(event);
 }
 
-void CustomComboBox1::wheelEvent(QWheelEvent*) {}
+void CustomComboBox1::wheelEvent(QWheelEvent* event)
+{
+    // The toolkit hands the event over as ignored: left so, the view behind would scroll.
+    event->accept();
+}
 
 void CustomComboBox1::focusInEvent(QFocusEvent* event)
 {

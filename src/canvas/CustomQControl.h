@@ -17,6 +17,12 @@ signals:
 protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void tellFocusLost();
+
+    bool m_focused = false;
 };
 
 /// The program's own combo box: a blue outline, no mouse wheel, and a list view that reports its focus.

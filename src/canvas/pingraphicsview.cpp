@@ -1,6 +1,8 @@
 #include "pingraphicsview.h"
 
+#include <QComboBox>
 #include <QGraphicsPixmapItem>
+#include <QGraphicsProxyWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -99,9 +101,15 @@ void PinGraphicsView::mouseReleaseEvent(QMouseEvent* event)
     QGraphicsView::mouseReleaseEvent(event);
 }
 
+bool PinGraphicsView::isComboAt(QPoint pos) const
+{
+    const auto* control = qgraphicsitem_cast<QGraphicsProxyWidget*>(itemAt(pos));
+    return control && control->widget() && control->widget()->findChild<QComboBox*>();
+}
+
 void PinGraphicsView::wheelEvent(QWheelEvent* event)
 {
-    if (event->modifiers() == Qt::ControlModifier) {
+    if (event->modifiers() == Qt::ControlModifier && !isComboAt(event->position().toPoint())) {
         if (event->angleDelta().y() >= 1)
             zoomIn();
         else

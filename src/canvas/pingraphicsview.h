@@ -45,6 +45,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// A combo box keeps the wheel for itself, with Ctrl too.
+    bool isComboAt(QPoint pos) const;
+
     Qt::MouseButton m_translateButton = Qt::LeftButton;
     qreal m_translateSpeed = 1.0;
     qreal m_zoomDelta = 0.03;
