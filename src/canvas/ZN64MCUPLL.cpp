@@ -68,7 +68,8 @@ void ZN64MCUPLL::SetLabelColor(QLabel* label, const QColor& color)
 QString ZN64MCUPLL::GetXMLElementString(const QString& fileName, const QString& elementName)
 {
     QDomDocument document;
-    if (!loadGuardedXml(fileName, document))
+    // Without a name the document model would take any element.
+    if (elementName.isEmpty() || !loadGuardedXml(fileName, document))
         return {};
     return document.documentElement().firstChildElement(elementName).text();
 }
