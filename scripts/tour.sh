@@ -3,13 +3,18 @@
 # Usage: scripts/tour.sh [preset]
 set -euo pipefail
 cd "$(dirname "$0")/.."
-tour=build/${1:-release}/bin/tour
+preset=${1:-release}
 
-if [ "${2:-}" = --inside ]; then
-    openbox &
-    manager=$!
-    trap 'kill "$manager"' EXIT
-    "$tour"
-    exit
+if [ "${2:-}" != --inside ]; then
+    exec xvfb-run --auto-servernum --server-args "-screen 0 1600x1000x24" "$0" "$preset" --inside
 fi
-exec xvfb-run --auto-servernum --server-args "-screen 0 1600x1000x24" "$0" "${1:-release}" --inside
+
+openbox --config-file /dev/null 2>/dev/null &
+manager=$!
+trap 'kill "$manager"' EXIT
+# A window that comes up before the manager is ready is never shown.
+until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; do
+    kill -0 "$manager" || { echo "tour: the window manager did not start" >&2; exit 1; }
+    sleep 0.1
+done
+"build/$preset/bin/tour"

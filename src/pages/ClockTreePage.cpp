@@ -143,7 +143,9 @@ void ClockTreePage::UpdateResultControls()
 
 void ClockTreePage::UpdateParam_From_ResultCLK()
 {
-    if (sclkFromPll())
+    if (readingDesign())
+        model().CalculateCLK();
+    else if (sclkFromPll())
         model().CalculateParam_From_SYSCLK();
     else if (m_description.alwaysSearchesUsb || usbFromPll())
         model().CalculateParam_From_USBCLK();
@@ -168,16 +170,15 @@ void ClockTreePage::UpdateRTCParam()
 
 void ClockTreePage::searchUsb()
 {
+    if (readingDesign())
+        return;
     model().CalculateParam_From_USBCLK();
     updatePllControls();
-    // The search moved the system clock, and the buses follow it.
-    if (sclkFromPll())
-        UpdateCalculateResult();
 }
 
 bool ClockTreePage::TextBox_Input_Valid_Check()
 {
-    if (!checksInputs())
+    if (readingDesign())
         return true;
     if (hextNeeded() && !readHext())
         return false;

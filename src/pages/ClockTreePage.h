@@ -40,6 +40,8 @@ public:
     void InitAllControl();
     /// Checks the design against its limits, asks for a file name and writes the file.
     void SaveToFile(const QString& seriesName);
+    /// Writes the file without checks or questions; false if it cannot be opened.
+    bool writeDesign(const QString& path, const QString& seriesName) const;
     /// Takes over the settings of the file; what it lacks or holds wrongly takes its default.
     void OpenFromFile(const QString& path);
     /// Checks, asks, and writes the four files. False if anything kept them from being written.
@@ -64,8 +66,9 @@ public:
     bool hextNeeded() const;
     /// Whether hext is in use at all, the RTC included.
     bool hextInUse() const;
-    /// False while a design file is being read: then values pass as they are and nobody is told.
-    bool checksInputs() const { return !m_readingDesign; }
+    /// While a design file is being read, typed values pass as they are, nobody is told, and nothing is
+    /// solved: the file's own numbers stand.
+    bool readingDesign() const { return m_readingDesign; }
 
     // What the blocks' slots run.
 
@@ -132,7 +135,6 @@ private:
     bool breaksSoftLimit(const SoftLimit& limit) const;
     bool passesHardLimits() const;
     bool passesSoftLimits() const;
-    bool writeDesign(const QString& path, const QString& seriesName) const;
     bool prepareFolders(const QString& incPath, const QString& srcPath) const;
     void showGenerated(const QString& folder) const;
 

@@ -89,7 +89,7 @@ bool ClockTreePage::writeDesign(const QString& path, const QString& seriesName) 
 
 void ClockTreePage::OpenFromFile(const QString& path)
 {
-    // Values pass unchecked here: what is out of range is told at the next edit or on generating.
+    // What is out of range is told at the next edit or on generating.
     const QScopedValueRollback<bool> reading(m_readingDesign, true);
     InitAllControl();
     QDomDocument document;

@@ -95,7 +95,7 @@ bool ClockTreePage::Result_SYSCLK_Valid(double& value)
 bool ClockTreePage::readHext()
 {
     // The file's number stands in the model already; the edit may hold less of it than the file.
-    if (!checksInputs())
+    if (readingDesign())
         return true;
     double hext = 0.0;
     if (!Hext_Value_Valid(hext))

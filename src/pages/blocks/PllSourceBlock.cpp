@@ -64,7 +64,7 @@ void PllSourceBlock::UI_Display()
 
 bool PllSourceBlock::PLLInputSourceClockCheck()
 {
-    if (!page().checksInputs() || !model().pll_isEnable() || !hextSelected())
+    if (page().readingDesign() || !model().pll_isEnable() || !hextSelected())
         return true;
     const double input = model().GetPllInPutValue();
     if (input < inputlimits::pllInputMin) {

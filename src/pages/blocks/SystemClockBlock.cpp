@@ -93,7 +93,7 @@ bool SystemClockBlock::inRange(double sysclk) const
 bool SystemClockBlock::Result_SYSCLK_Valid(double& value)
 {
     const double sysclk = typed();
-    if (!page().checksInputs() || inRange(sysclk)) {
+    if (page().readingDesign() || inRange(sysclk)) {
         value = sysclk;
         return true;
     }

@@ -87,14 +87,9 @@ void UsbBlock::UpdateResultControls()
     m_usbdiv_ComboBox->setCurrentIndex(indexIn(page().description().usbDivisors, model().Get_USBDIV()));
 }
 
-bool UsbBlock::keepsPll() const
+void UsbBlock::serveUsb()
 {
-    return m_tousb_pll_RadioButton ? !pllSelected() : page().sclkFromPll();
-}
-
-void UsbBlock::usbdiv_ComboBox_currentIndexChanged(int index)
-{
-    model().Set_USBDIV(valueAt(page().description().usbDivisors, index));
+    // A PLL that drives the system clock is not moved for USB.
     if (page().sclkFromPll() || !fromPll()) {
         page().UpdateCalculateResult();
         return;
@@ -105,35 +100,27 @@ void UsbBlock::usbdiv_ComboBox_currentIndexChanged(int index)
     page().UpdateResultControls();
 }
 
+void UsbBlock::usbdiv_ComboBox_currentIndexChanged(int index)
+{
+    model().Set_USBDIV(valueAt(page().description().usbDivisors, index));
+    serveUsb();
+}
+
 void UsbBlock::usbswitch_ComboBox_currentIndexChanged(int index)
 {
     model().Set_TO_USB_Switch(index);
     page().UI_Display();
-    if (index != 0) {
+    if (index == 0)
+        serveUsb();
+    else
         page().UpdateParam_From_ResultCLK();
-    } else if (keepsPll()) {
-        page().UpdateCalculateResult();
-        return;
-    } else {
-        if (!page().readHextForPll())
-            return;
-        page().searchUsb();
-    }
-    page().UpdateResultControls();
 }
 
 void UsbBlock::hicktousb_RadioButton_checkSlot(bool)
 {
     page().UI_Display();
-    if (!pllSelected()) {
-        model().Set_HICK_TO_USB(HICK_TO_USB_ENABLE);
+    model().Set_HICK_TO_USB(checkedValue(m_tousbChoices));
+    if (!pllSelected())
         model().Set_USBCLKValue(usbClock);
-        page().UpdateParam_From_ResultCLK();
-    } else {
-        model().Set_HICK_TO_USB(HICK_TO_USB_DISABLE);
-        if (!page().readHextForPll())
-            return;
-        page().searchUsb();
-    }
-    page().UpdateResultControls();
+    serveUsb();
 }

@@ -29,8 +29,8 @@ private:
     void New_hicktousb();
     /// A series without a choice of the source always takes the PLL.
     bool pllSelected() const { return !m_tousb_pll_RadioButton || m_tousb_pll_RadioButton->isChecked(); }
-    /// Whether switching USB on leaves the PLL as it is.
-    bool keepsPll() const;
+    /// Solves for USB if the PLL is free to serve it; in all cases recalculates and repaints.
+    void serveUsb();
 
     QLabel* m_usbdiv_Label = nullptr;
     CustomComboBox1* m_usbdiv_ComboBox = nullptr;

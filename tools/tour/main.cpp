@@ -1,0 +1,23 @@
+#include "steps.h"
+#include "tour.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
+    QApplication application(argc, argv);
+    const QString folder =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/../tour"));
+    Tour tour(folder);
+    withoutDesign(tour);
+    firstSeries(tour);
+    flexibleSeries(tour);
+    inChinese(tour);
+    closing(tour);
+    std::printf("tour: done; screenshots and generated files are in %s\n", qPrintable(folder));
+    return 0;
+}
