@@ -1,0 +1,80 @@
+#include "builder.h"
+#include "checks.h"
+#include "picture.h"
+#include "review.h"
+
+#include "model/seriestraits.h"
+#include "pages/seriespages.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include <cstdio>
+
+namespace {
+
+void say(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+int paint(const QString& series, const QString& tree, const QString& output, const QString& review)
+{
+    const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + series);
+    // The program's windows lend this sheet to their pages, and sheets change the sizes of controls.
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
+    ClockTreePage* page = traits ? createSeriesPage(traits->series, &window) : nullptr;
+    if (!page) {
+        say(QStringLiteral("there is no page for the series %1").arg(series));
+        return 1;
+    }
+    window.show();
+    PageLayout layout = layoutOf(*page);
+    Problems problems;
+    const Drawing drawing = buildDrawing(readTree(tree, problems), layout, problems);
+    checkDrawing(drawing, layout, QFileInfo(tree).fileName(), problems);
+    for (const Problem& problem : problems)
+        say(problem.text());
+    const QImage picture = paintPicture(drawing, layout.size);
+    if (!review.isEmpty() && !writeReview(*page, picture, review)) {
+        say(QStringLiteral("%1 cannot be written").arg(review));
+        return 1;
+    }
+    if (!problems.empty())
+        return 1;
+    if (!picture.save(output, "BMP")) {
+        say(QStringLiteral("%1 cannot be written").arg(output));
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    // The offscreen platform warns of every control on the scene.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    QCommandLineParser arguments;
+    arguments.setApplicationDescription(QStringLiteral("Paints the picture of a series' clock tree."));
+    arguments.addHelpOption();
+    arguments.addPositionalArgument(QStringLiteral("series"),
+                                    QStringLiteral("The series word, such as G110."));
+    arguments.addPositionalArgument(QStringLiteral("tree"), QStringLiteral("The text of the tree."));
+    arguments.addPositionalArgument(QStringLiteral("output"), QStringLiteral("The bitmap to write."));
+    const QCommandLineOption review(
+        QStringLiteral("review"),
+        QStringLiteral("Also write the page with its picture to <base>-100.png and "
+                       "<base>-200.png, even of a tree with faults."),
+        QStringLiteral("base"));
+    arguments.addOption(review);
+    arguments.process(application);
+    const QStringList files = arguments.positionalArguments();
+    if (files.size() != 3)
+        arguments.showHelp(1);
+    return paint(files[0], files[1], files[2], arguments.value(review));
+}
