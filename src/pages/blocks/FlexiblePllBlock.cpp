@@ -101,8 +101,10 @@ void FlexiblePllBlock::New_pll_fr()
 
 void FlexiblePllBlock::New_pll_CFG()
 {
-    // The edit's frame reaches below the end of the label: the label lies on top.
+    // The edit reaches below the end of the label: the label lies on top, and the digits keep to the right of
+    // it.
     m_pllCFG_Value_lineEdit = page().placeEdit(QStringLiteral("m_pllCFG_Value_lineEdit"));
+    m_pllCFG_Value_lineEdit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_pllCFG_Value_lineEdit->setReadOnly(true);
     m_pllCFG_Value_lineEdit->setFixedSize(registerWidth, registerHeight);
     m_pllCFG_Value_lineEdit->setStyleSheet(styles::registerValue());
