@@ -3,6 +3,7 @@
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
 
+install_packages
 say "Checking the format of the C++ files"
 mapfile -t files < <(git ls-files -- {src,tools,tests,bench}/'*.'{h,cpp})
 [ ${#files[@]} -gt 0 ] || die "git lists no C++ file here"
