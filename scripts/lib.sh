@@ -4,12 +4,13 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Arial is drawn with the Liberation fonts; the Chinese interface needs Micro Hei. Xvfb stands in for a display.
+# Arial is drawn with the Liberation fonts; the Chinese interface needs Micro Hei. Xvfb stands in for a display, and
+# openbox for the window manager on it.
 PACKAGES=(
     cmake ninja-build ccache g++ clang-format
     qtbase5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev
     fonts-liberation fonts-wqy-microhei
-    xvfb xauth openssl
+    xvfb xauth x11-utils openbox openssl
 )
 
 say() { printf '== %s\n' "$*"; }
@@ -61,6 +62,6 @@ run_tour() {
     local folder="build/$1/tour"
     rm -rf "$folder"
     say "Running the tour on a virtual display"
-    xvfb-run -a -s '-screen 0 1600x1000x24' "build/$1/bin/tour" || die "the tour failed"
+    scripts/tour.sh "$1" || die "the tour failed"
     say "The tour left its pictures and files in $PWD/$folder"
 }
