@@ -1,5 +1,8 @@
+#include "model/seriestraits.h"
+#include "pages/seriespages.h"
 #include "preview/FormCodeView.h"
 #include "preview/MyQsciScintilla.h"
+#include "preview/stems.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -36,6 +39,7 @@ private slots:
     void init();
     void everyFileLandsInItsTab_data();
     void everyFileLandsInItsTab();
+    void stemsAgreeWithTheGenerator();
     void namesMoveUpBehindAMissingFile();
     void scrollPositionSurvivesAReload();
     void clickedTabIsHighlightedAndStaysSoAfterAReload();
@@ -113,6 +117,19 @@ void TestCodeView::everyFileLandsInItsTab()
     const auto* tabs = m_view->findChild<QTabWidget*>(QStringLiteral("m_CodeViewTabWidget"));
     for (int tab = 0; tab < 4; ++tab)
         QCOMPARE(tabs->widget(tab), editor(tab));
+}
+
+void TestCodeView::stemsAgreeWithTheGenerator()
+{
+    int compared = 0;
+    for (const SeriesTraits& each : seriesList()) {
+        const QScopedPointer<ClockTreePage> page(createSeriesPage(each.series, nullptr));
+        if (!page)
+            continue;
+        QCOMPARE(fileStemOfSeries(each.name()), QLatin1String(page->description().stem));
+        ++compared;
+    }
+    QVERIFY(compared > 0);
 }
 
 void TestCodeView::namesMoveUpBehindAMissingFile()

@@ -59,14 +59,14 @@ struct FormFixture
         };
     }
 
-    /// A design file with little more than the series: all else takes its default.
+    /// A design that can be generated without questions. What the file lacks takes its default.
     QString designFile(const char* series)
     {
         const QString path = folder.filePath(QLatin1String(series) + QStringLiteral(".ZNCK"));
         QFile file(path);
         if (file.open(QIODevice::WriteOnly))
             file.write(QByteArray("<Configuration><MCU>") + series +
-                       "</MCU><hext>8.0</hext></Configuration>");
+                       "</MCU><hext>8</hext><tousbswitch>1</tousbswitch></Configuration>");
         return path;
     }
 
