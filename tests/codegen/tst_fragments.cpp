@@ -69,7 +69,7 @@ void FragmentsTest::pllRows()
     const char* const pllu = "crm_pllu_div_set(CRM_PLL_FU_11);";
     const Setup canOnPll = [](Clock& c) {
         feedUsbFromHick(c);
-        c.Set_can1_Clock_Source(CAN_CLOCK_SOURCE_PLL);
+        c.Set_can3_Clock_Source(CAN_CLOCK_SOURCE_PLL);
     };
     row("FU for a CAN that is off", ZN64G165, &Clock::GenerateCode_plludiv, pllu,
         "crm_pllu_div_set(CRM_PLL_FU_18);", canOnPll);
@@ -129,6 +129,19 @@ void FragmentsTest::mainFileRows()
         "crm_clock_out_set(CRM_CLKOUT_USBFS);\ncrm_clkout_div_set(CRM_CLKOUT_DIV_64);\n\n",
         pa9);
     row("divider call of two missing", ZN64P216, &Clock::GenerateCode_clockout, pin, nullptr, pa9);
+    row("two dividers", ZN64P216, &Clock::GenerateCode_clockout,
+        "[#clkout function]\ncrm_periph_clock_enable(A, B);\ngpio_init_struct.gpio_pins = A;\n"
+        "gpio_init(A, &b);\ngpio_pin_mux_config(A, B, C);\ncrm_clock_out_set(A);\n"
+        "crm_clkout_div_set(A, B);\n[/#clkout function]\n",
+        "crm_periph_clock_enable(CRM_GPIOE_PERIPH_CLOCK, TRUE);\ngpio_init_struct.gpio_pins = GPIO_PINS_4;\n"
+        "gpio_init(GPIOE, &gpio_init_struct);\ngpio_pin_mux_config(GPIOE, GPIO_PINS_SOURCE4, GPIO_MUX_0);\n"
+        "crm_clock_out_set(CRM_CLKOUT_NOCLK);\ncrm_clkout_div_set(CRM_CLKOUT_DIV1_3, "
+        "CRM_CLKOUT_DIV2_512);\n\n",
+        [](Clock& c) {
+            c.Set_CLKOUT_PinSelect(CLKOUTPIN_PE4);
+            c.Set_CLKOUT_Div1(3);
+            c.Set_CLKOUT_Div2(512);
+        });
     row("main keeps the delay", ZN64H133, &Clock::GenerateCode_mainFunc,
         "  mx_clkout_init();\n\n  delay_ms(60);\n\n  mx_rtc_clock_init();\n\n  mx_adc_clock_init();\n\n"
         "  mx_i2c_clock_init();\n\n  mx_usart_clock_init();\n\n  end",
@@ -176,6 +189,9 @@ void FragmentsTest::mainFileRows()
         "#define  HEXT_VALUE \t ((uint32_t)8000000) /* x */\n#define HICK_VALUE ((uint32_t)12000000)\n");
     row("crystal of another default", ZN64G165, &Clock::GenerateCode_hextdefine,
         "#define HEXT_VALUE ((uint32_t)12000000)\n", nullptr);
+    row("rtc alternatives back to back", ZN64G125, &Clock::GenerateCode_rtc,
+        "[#rtc function]\n[#rtc lick]\na\n[/#rtc lick]\n[#rtc lext]\nb\n[/#rtc lext]\n}\n[/#rtc function]\n",
+        "a\n}\n\n", [](Clock& c) { c.Set_ToRTC_Switch(true); });
     row("an inner miss leaves its markers", ZN64G125, &Clock::GenerateCode_rtc,
         "[#rtc function]\n[#rtc lick]\na\n[/#rtc lick]\n[#rtc lext]\nb\n[/#rtc lext]\n[/#rtc function]\n",
         "[#rtc lext]\nb\n[/#rtc lext]\n\n", [](Clock& c) {

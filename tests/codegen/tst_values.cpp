@@ -88,6 +88,7 @@ void ValuesTest::macros_data()
     for (const Pin& pin : {
              Pin{"G135", CLKOUTPIN_PB13, "GPIOB GPIO_PINS_13 GPIO_MUX_3"},
              Pin{"G130", CLKOUTPIN_PB13, "GPIOB GPIO_PINS_13 GPIO_MUX_0"},
+             Pin{"G110", CLKOUTPIN_PC9,  "GPIOC GPIO_PINS_9 GPIO_MUX_0" },
              Pin{"D042", CLKOUTPIN_PF2,  "GPIOF GPIO_PINS_2 GPIO_MUX_0" },
              Pin{"G133", CLKOUTPIN_PA9,  "GPIOA GPIO_PINS_9 GPIO_MUX_0" },
              Pin{"G130", 99,             "GPIOA GPIO_PINS_0 GPIO_MUX_0" }
@@ -186,6 +187,13 @@ void ValuesTest::commentsTheResult_data()
     const int flexible = PLLMODE_FLEXIBLE;
     const char* const ranged = "pll_mult 24, pll_range GT72MHZ (greater than 72 mhz)";
     row("G110", normal, pllHick, "hick / 2 * pll_mult", ranged);
+    row(
+        "G110", normal,
+        [=](Clock& c) {
+            pllHext(c);
+            c.Set_PLLCLKValue(72.0);
+        },
+        "hext * pll_mult", "pll_mult 24, pll_range LE72MHZ (less than 72 mhz or equal to 72 mhz)");
     row("G150", normal, pllHick, "hick / 6 * pll_mult", ranged);
     row("P212", normal, pllHick, "hick / 12 * pll_mult", ranged);
     row("G120", normal, pllDivided, "hext / 3 * pll_mult", ranged);
