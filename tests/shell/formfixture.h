@@ -55,7 +55,6 @@ struct FormFixture
                 devices->setCurrentText(series);
             }
             DialogAnswers::press("OK")(dialog);
-            DialogAnswers::press("\xe7\xa1\xae\xe5\xae\x9a")(dialog);
         };
     }
 

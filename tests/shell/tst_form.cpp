@@ -227,9 +227,7 @@ void TestForm::openOfAnUnknownFileLosesOnlyTheName_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("no xml") << QByteArray("clock");
-    QTest::newRow("unknown series") << QByteArray("<Root><MCU>ZN64G199</MCU></Root>");
     QTest::newRow("wrong case") << QByteArray("<Root><MCU>zn64g110</MCU></Root>");
-    QTest::newRow("series too deep") << QByteArray("<Root><a><MCU>ZN64G110</MCU></a></Root>");
 }
 
 void TestForm::openOfAnUnknownFileLosesOnlyTheName()

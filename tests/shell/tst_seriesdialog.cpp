@@ -14,12 +14,9 @@ class TestSeriesDialog : public QObject
 
 private slots:
     void init();
-    void lineListRefillsTheSeriesList_data();
-    void lineListRefillsTheSeriesList();
     void typedNameMovesTheLists_data();
     void typedNameMovesTheLists();
     void pickingFromTheCompleterIgnoresTheCase();
-    void searchOffersTheDevicesOfTheLinesOnly();
     void endsWithTheSeriesShownOrWithNothing_data();
     void endsWithTheSeriesShownOrWithNothing();
 
@@ -37,34 +34,6 @@ void TestSeriesDialog::init()
     m_dialog.reset(new MCUSelect_Form(nullptr));
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.data()));
-}
-
-void TestSeriesDialog::lineListRefillsTheSeriesList_data()
-{
-    QTest::addColumn<QString>("devices");
-    const auto row = [](const char* line, const char* devices) {
-        QTest::newRow(line) << QString::fromLatin1(devices);
-    };
-    row("Mainstream", "ZN64G171 ZN64G110R ZN64G174 ZN64G114 ZN64G120 ZN64G165 ZN64G166 ZN64G167");
-    row("Value line", "ZN64G125 ZN64G130 ZN64G133 ZN64G135");
-    row("High performance", "ZN64G150 ZN64G152");
-    row("Automotive", "ZN64H110R ZN64H133");
-    row("Low Power", "ZN64D042");
-    row("Wireless BLE", "ZN64TQ125");
-    row("Motor", "ZN64P212 ZN64P216");
-}
-
-void TestSeriesDialog::lineListRefillsTheSeriesList()
-{
-    QFETCH(QString, devices);
-    // From another line, so that there is a change to react to.
-    box("m_ProductLine_ComboBox")->setCurrentIndex(line() == QLatin1String(QTest::currentDataTag()) ? 1 : 0);
-    box("m_ProductLine_ComboBox")->setCurrentText(QLatin1String(QTest::currentDataTag()));
-
-    QStringList shown;
-    for (int i = 0; i < box("m_MCUSerial_ComboBox")->count(); ++i)
-        shown += box("m_MCUSerial_ComboBox")->itemText(i);
-    QCOMPARE(shown.join(QLatin1Char(' ')), devices);
 }
 
 void TestSeriesDialog::typedNameMovesTheLists_data()
@@ -111,21 +80,6 @@ void TestSeriesDialog::pickingFromTheCompleterIgnoresTheCase()
 
     QTRY_COMPARE(series(), QStringLiteral("ZN64H133"));
     QCOMPARE(line(), QStringLiteral("Automotive"));
-}
-
-void TestSeriesDialog::searchOffersTheDevicesOfTheLinesOnly()
-{
-    const QComboBox* query = box("m_QueryDevice_ComboBox");
-    QVERIFY(query->currentText().isEmpty());
-    QStringList offered;
-    for (int i = 0; i < query->count(); ++i)
-        offered += query->itemText(i);
-    QStringList devices = m_dialog->GetAllDevicesName();
-    QCOMPARE(devices.size(), 20);
-    devices.sort();
-    QCOMPARE(offered, devices);
-    for (const char* absent : {"ZN64G110", "ZN64G190", "ZN64G142", "ZN64G146"})
-        QVERIFY2(!offered.contains(QLatin1String(absent)), absent);
 }
 
 void TestSeriesDialog::endsWithTheSeriesShownOrWithNothing_data()
