@@ -25,7 +25,7 @@ public:
     {
     }
 
-    ZN64ConfigCLK& model() { return page->model(); }
+    ZN64ConfigCLK& model() const { return page->model(); }
     QString series() const { return seriesName(page->model().series()); }
     QWidget* viewport() const { return page->view()->viewport(); }
 
@@ -88,7 +88,7 @@ public:
             qFatal("%s took no click", name);
     }
     /// Types the text in place of the present one, and commits it with Return.
-    void type(const char* name, const char* text, bool commit = true) const
+    void type(const char* name, const QByteArray& text, bool commit = true) const
     {
         click(name);
         auto* edit = find<QLineEdit>(QLatin1String(name));
