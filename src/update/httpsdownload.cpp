@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QSslConfiguration>
 
+#include <memory>
+
 namespace {
 
 // Bytes that wait in memory at most when the net is faster than the disk.
