@@ -25,7 +25,6 @@ private slots:
     void listStaysOffTheDisk_data();
     void listStaysOffTheDisk();
     void secondCallWhileWaiting();
-    void sites();
 
 private:
     DownloadSite site(bool chinese) const;
@@ -257,16 +256,6 @@ void TestOnlineUpdate::secondCallWhileWaiting()
     update.OnlineDownload();
     QCOMPARE(m_server->requestCount(), requests + 1);
     QCOMPARE(watcher.seen(), QStringList(Latest));
-}
-
-void TestOnlineUpdate::sites()
-{
-    QVERIFY(downloadSite(true).baseAddress != downloadSite(false).baseAddress);
-    for (const bool chinese : {true, false}) {
-        const QUrl base(downloadSite(chinese).baseAddress);
-        QCOMPARE(base.scheme(), QStringLiteral("https"));
-        QVERIFY(base.isValid() && base.path().endsWith(QStringLiteral("/download/")));
-    }
 }
 
 QTEST_MAIN(TestOnlineUpdate)
