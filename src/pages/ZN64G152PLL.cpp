@@ -29,7 +29,6 @@ PageDescription describe()
         groupAt("m_toapb2periphera_list_group", 1261, 658),
         groupAt("m_toapb2tmr_list_group", 1261, 563),
         editAt("m_tosystick_div", 1092, 74),
-        editAt("m_toapb1tmr_mul", 1092, 512),
     });
     page.outputs.push_back({"m_toemac_lineEdit", Clock::Ahb});
     // The page has no switch for the ADC, so that this never asks. It stands all the same.

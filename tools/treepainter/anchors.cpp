@@ -148,28 +148,29 @@ Anchor Anchors::input(const QString& radio) const
     return onSide(mux->rect, side, level, level, radio);
 }
 
-Anchor Anchors::branch(const QString& wireName, const QString& place) const
+Anchor Anchors::branch(const QString& name, const QString& place) const
 {
-    const Wire* wire = m_drawing.wire(wireName);
-    if (!wire)
-        throw TreeError(QStringLiteral("there is no wire %1 above this line").arg(wireName));
     const bool alongX = place.startsWith(QLatin1String("x="));
     const double value = onPixel(coordinate(place.mid(2), alongX ? Qt::Horizontal : Qt::Vertical));
-    for (const Segment& segment : segmentsOf(wire->points)) {
-        if (alongX && segment.isHorizontal() && within(value, segment.from.x(), segment.to.x()))
-            return {
-                {value,                                 segment.from.y()},
-                std::nullopt, 0, 0, {                                     },
-                wire->net
-            };
-        if (!alongX && segment.isVertical() && within(value, segment.from.y(), segment.to.y()))
-            return {
-                {segment.from.x(),                      value},
-                std::nullopt, 0, 0, {                                     },
-                wire->net
-            };
+    for (const Wire& wire : m_drawing.wires) {
+        if (wire.name != name)
+            continue;
+        for (const Segment& segment : segmentsOf(wire.points)) {
+            if (alongX && segment.isHorizontal() && within(value, segment.from.x(), segment.to.x()))
+                return {
+                    {value,                                     segment.from.y()},
+                    std::nullopt, 0, 0, {                                         },
+                    wire.net
+                };
+            if (!alongX && segment.isVertical() && within(value, segment.from.y(), segment.to.y()))
+                return {
+                    {segment.from.x(),                          value},
+                    std::nullopt, 0, 0, {                                         },
+                    wire.net
+                };
+        }
     }
-    throw TreeError(QStringLiteral("wire %1 does not pass %2").arg(wireName, place));
+    throw TreeError(QStringLiteral("no wire %1 above this line passes %2").arg(name, place));
 }
 
 Anchor Anchors::anchor(const QString& text) const

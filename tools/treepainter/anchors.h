@@ -49,7 +49,7 @@ public:
 private:
     Anchor side(const QString& owner, Side side, double offset) const;
     Anchor input(const QString& radio) const;
-    Anchor branch(const QString& wire, const QString& place) const;
+    Anchor branch(const QString& name, const QString& place) const;
     double named(const QString& name, const QString& side, Qt::Orientation axis) const;
 
     const PageLayout& m_page;

@@ -9,8 +9,8 @@
 namespace {
 
 // Pixels. A multiplexer reaches from its radio buttons this far.
-constexpr double muxBeforeRadios = 9;
-constexpr double muxBehindRadios = 13;
+constexpr double muxBeforeRadios = 7;
+constexpr double muxBehindRadios = 11;
 constexpr double muxAtEnds = 15;
 constexpr double muxSlope = 12;
 
@@ -22,6 +22,8 @@ constexpr double padSize = 10;
 constexpr double leadInset = 4;
 constexpr double leadBehindPin = 5;
 constexpr double crystalWidth = 16;
+
+constexpr int noNet = -1;
 
 const QString fullValue = QStringLiteral("(192.000 MHz)");
 
@@ -45,6 +47,7 @@ private:
     void addCrystal(const Statement& statement);
     void addWire(const Statement& statement);
 
+    void claimName(const QString& name, int net = noNet) const;
     PlacedControl& control(const QString& name);
     QPointF point(const Statement& statement) const;
 
@@ -105,9 +108,15 @@ void Builder::add(const Statement& statement)
     const auto handler = keywords.constFind(statement.keyword);
     if (handler == keywords.constEnd())
         throw TreeError(QStringLiteral("%1 is no keyword").arg(statement.keyword));
-    if (!statement.name.isEmpty() && (m_drawing.rectOf(statement.name) || m_drawing.wire(statement.name)))
-        throw TreeError(QStringLiteral("the name %1 is taken").arg(statement.name));
     (this->**handler)(statement);
+}
+
+/// Figures have names of their own; wires share one only if they carry the same signal.
+void Builder::claimName(const QString& name, int net) const
+{
+    const Wire* wire = m_drawing.wire(name);
+    if (!name.isEmpty() && (m_page.find(name) || m_drawing.rectOf(name) || (wire && wire->net != net)))
+        throw TreeError(QStringLiteral("the name %1 is taken").arg(name));
 }
 
 PlacedControl& Builder::control(const QString& name)
@@ -158,6 +167,7 @@ void Builder::addMux(const Statement& statement)
 {
     if (statement.words.size() < 2)
         throw TreeError(QStringLiteral("mux takes the side of its nose and its radio buttons"));
+    claimName(statement.name);
     Mux mux{statement.source, statement.name, Side::Right, {}, {}, {}};
     const QString nose = statement.words[0].text;
     if (nose != QLatin1String("left") && nose != QLatin1String("right"))
@@ -178,6 +188,7 @@ void Builder::addMux(const Statement& statement)
 void Builder::addBox(const Statement& statement)
 {
     needWords(statement, 3);
+    claimName(statement.name);
     const QString text = statement.words[2].text;
     const double textWidth = extentOf(text, captionFont()).width();
     // An even width and height put the frame on whole pixels around a middle that lies on one.
@@ -189,6 +200,7 @@ void Builder::addBox(const Statement& statement)
 void Builder::addPad(const Statement& statement)
 {
     needWords(statement, 2);
+    claimName(statement.name);
     m_drawing.pads.push_back({statement.source, statement.name, around(point(statement), padSize, padSize)});
 }
 
@@ -246,6 +258,7 @@ void Builder::addWire(const Statement& statement)
             end = m_anchors.anchor(word.text);
     }
     const int net = start.net.value_or(static_cast<int>(m_drawing.wires.size()));
+    claimName(statement.name, net);
     m_drawing.wires.push_back({statement.source, statement.name, route(start, bends, end), start.owner,
                                end ? end->owner : QString(), net, start.net.has_value(),
                                statement.keyword == QLatin1String("idle")});

@@ -91,7 +91,8 @@ void checkWire(const Wire& wire, const QRectF& picture, Problems& problems)
         tell(QStringLiteral("the wire reaches out of the picture"));
     const std::vector<Segment> segments = segmentsOf(wire.points);
     if (!wire.idle && segments.back().length() < shortestArrival)
-        tell(QStringLiteral("the wire has no room for its arrowhead at %1").arg(wire.to));
+        tell(QStringLiteral("the wire has no room for its arrowhead at %1")
+                 .arg(wire.to.isEmpty() ? QStringLiteral("its end") : wire.to));
     if (std::any_of(segments.begin(), segments.end(),
                     [](const Segment& segment) { return segment.length() < shortestPiece; }))
         tell(QStringLiteral("the wire has a kink"));

@@ -56,9 +56,9 @@ int paint(const QString& series, const QString& tree, const QString& output, con
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
     // The offscreen platform warns of every control on the scene.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    QApplication application(argc, argv);
     QCommandLineParser arguments;
     arguments.setApplicationDescription(QStringLiteral("Paints the picture of a series' clock tree."));
     arguments.addHelpOption();

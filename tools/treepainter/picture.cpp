@@ -12,7 +12,9 @@
 namespace {
 
 const QColor ink(0, 32, 82);
-const QColor frame(57, 169, 220);
+const QColor muxFrame(57, 169, 220);
+// The frame of the pages' own boxes with a fixed step.
+const QColor boxFrame(10, 78, 121);
 
 // Pixels.
 constexpr double wireWidth = 1.5;
@@ -129,14 +131,14 @@ void paintCrystal(QPainter& painter, const Crystal& crystal)
 
 void paintMux(QPainter& painter, const Mux& mux)
 {
-    painter.setPen(wirePen(frame));
+    painter.setPen(wirePen(muxFrame));
     painter.setBrush(QColor(muxGround));
     painter.drawPolygon(mux.outline);
 }
 
 void paintBox(QPainter& painter, const Box& box)
 {
-    painter.setPen(QPen(frame, 1));
+    painter.setPen(QPen(boxFrame, 1));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(box.rect, 2, 2);
     painter.setPen(ink);

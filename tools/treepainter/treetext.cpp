@@ -54,9 +54,10 @@ void include(const Statement& line, const QString& folder, std::vector<Statement
         problems.push_back({line.source, QStringLiteral("include takes one file, and no file itself again")});
         return;
     }
-    const QString path = folder + QLatin1Char('/') + line.words.first().text;
+    const QString name = line.words.first().text;
+    const QString path = folder + QLatin1Char('/') + name;
     if (!QFileInfo(path).isReadable()) {
-        problems.push_back({line.source, QStringLiteral("there is no tree %1").arg(path)});
+        problems.push_back({line.source, QStringLiteral("there is no tree %1").arg(name)});
         return;
     }
     for (Statement& statement : readNested(path, problems, depth + 1))
