@@ -1,6 +1,7 @@
 #include "ZN64G110PLL.h"
 
 #include "blocks/ClockBlock.h"
+#include "descriptionparts.h"
 #include "model/divisors.h"
 
 namespace {
@@ -186,23 +187,13 @@ ClockOutputDescription clockOutput()
     return output;
 }
 
-std::vector<ListGroup> listGroups()
+std::vector<ListGroup> lists()
 {
-    return {
-        {"m_toapb1peripheral_List_Button",
-         "m_toapb1periphera_list_group", "m_toapb1peripheral_lineEdit",
-         {"SPI2", "SPI3", "SPI4", "USART2", "USART3", "UART4", "UART5", "I2C1", "I2C2", "I2C3", "CAN1",
-          "DAC"}                                                                          },
-        {"m_toapb1tmr_List_Button",
-         "m_toapb1tmr_list_group",       "m_toapb1tmr_lineEdit",
-         {"TMR2", "TMR3", "TMR4", "TMR5", "TMR6", "TMR7", "TMR12", "TMR13", "TMR14"}      },
-        {"m_toapb2peripheral_List_Button",
-         "m_toapb2periphera_list_group", "m_toapb2peripheral_lineEdit",
-         {"GPIOA", "GPIOB", "GPIOC", "GPIOD", "GPIOE", "GPIOF", "GPIOG", "SPI1", "USART1"}},
-        {"m_toapb2tmr_List_Button",
-         "m_toapb2tmr_list_group",       "m_toapb2tmr_lineEdit",
-         {"TMR1", "TMR8", "TMR9", "TMR10", "TMR11", "TMR15"}                              },
-    };
+    return descriptionparts::lists(
+        {"SPI2", "SPI3", "SPI4", "USART2", "USART3", "UART4", "UART5", "I2C1", "I2C2", "I2C3", "CAN1", "DAC"},
+        {"TMR2", "TMR3", "TMR4", "TMR5", "TMR6", "TMR7", "TMR12", "TMR13", "TMR14"},
+        {"GPIOA", "GPIOB", "GPIOC", "GPIOD", "GPIOE", "GPIOF", "GPIOG", "SPI1", "USART1"},
+        {"TMR1", "TMR8", "TMR9", "TMR10", "TMR11", "TMR15"});
 }
 
 PageDescription describe()
@@ -224,48 +215,31 @@ PageDescription describe()
     page.limits.apb2 = 100.0;
     page.limits.pll = 200.0;
     page.limits.adc = 28.0;
-    page.hardLimits = {
-        {Clock::Sysclk, 200.0, 200, "Can not support sclk greater than"     },
-        {Clock::Apb1,   100.0, 100, "Can not support apb1clk greater than"  },
-        {Clock::Apb2,   100.0, 100, "Can not support apb2clk greater than"  },
-        {Clock::Pll,    200.0, 200, "Can not support pll clock greater than"},
-    };
+    page.hardLimits = descriptionparts::hardLimits(page.limits);
     page.softLimits = {
-        {SoftLimitKind::Usb48,    48.0,
-         "USB clock must be 48MHz. But the USB clock of current config is wrong.  please confirm whether to "
-         "continue?"           },
+        descriptionparts::usbClock(),
         {SoftLimitKind::AdcAbove, 28.0,
-         "The maximum ADC clock is 28 MHz. The currently configured ADC clock is wrong.  please confirm "
+                      "The maximum ADC clock is 28 MHz. The currently configured ADC clock is wrong.  please confirm "
          "whether to continue?"},
     };
     page.usbDivisors = listOf(divisors::usbHalfStepsTo4);
     page.adcDivisors = listOf(divisors::adc);
-    page.outputs = {
-        {"m_toi2s_lineEdit",     Clock::Sysclk},
-        {"m_tosystick_lineEdit", Clock::Ahb,    8.0},
-        {"m_tosido_lineEdit",                      Clock::Ahb                },
-        {"m_todma_lineEdit",                      Clock::Ahb },
-        {"m_toxmc_lineEdit",                      Clock::Ahb                },
-        {"m_toapb1peripheral_lineEdit",                      Clock::Apb1},
-        {"m_toapb1tmr_lineEdit",                      Clock::Apb1Timer                       },
-        {"m_toapb2peripheral_lineEdit",                      Clock::Apb2},
-        {"m_toapb2tmr_lineEdit",                      Clock::Apb2Timer                              },
-    };
-    page.listGroups = listGroups();
+    page.outputs = descriptionparts::outputs({"m_tosido_lineEdit", "m_todma_lineEdit", "m_toxmc_lineEdit"});
+    page.listGroups = lists();
     page.clockOutputs = {clockOutput()};
     page.checksPllInput = true;
     return page;
 }
 
-const PageDescription& g110()
+} // namespace
+
+const PageDescription& g110Description()
 {
     static const PageDescription page = describe();
     return page;
 }
 
-} // namespace
-
-ZN64G110PLL::ZN64G110PLL(QWidget* parent) : ClockTreePage(g110(), parent)
+ZN64G110PLL::ZN64G110PLL(QWidget* parent) : ClockTreePage(g110Description(), parent)
 {
     build();
 }

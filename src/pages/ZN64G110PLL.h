@@ -9,3 +9,6 @@ class ZN64G110PLL : public ClockTreePage
 public:
     explicit ZN64G110PLL(QWidget* parent = nullptr);
 };
+
+/// The reference: what the other series' descriptions start from.
+const PageDescription& g110Description();

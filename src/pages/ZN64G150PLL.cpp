@@ -1,48 +1,88 @@
 #include "ZN64G150PLL.h"
 
+#include "ZN64G110PLL.h"
 #include "blocks/ClockBlock.h"
+#include "descriptionparts.h"
 #include "model/divisors.h"
 
 namespace {
 
+/// The same tree on a picture of its own.
+Places movedPlaces()
+{
+    return g110Description()
+        .places
+        .without({
+            "m_pllhext", "m_pllmult", "m_sclkRange", "m_toadc", "m_clockout"
+    })
+        .moved({
+            {"m_lick_Label", 80, 20},
+            {"m_lick_lineEdit", 65, 37},
+            {"m_towdt_lineEdit", 510, 17},
+            {"m_tortc_ComboBox", 405, 102},
+            {"m_tortc_lineEdit", 510, 102},
+            {"m_lext_Label1", 80, 82},
+            {"m_lext_lineEdit", 65, 99},
+            {"m_lextbypass_Label", 83, 130},
+            {"m_lextbypass_ComboBox", 65, 148},
+            {"m_lext_In", 18, 101},
+            {"m_lext_Out", 6, 112},
+            {"m_rtcsel_lick_RadioButton", 345, 45},
+            {"m_rtcsel_lext_RadioButton", 345, 107},
+            {"m_rtcsel_hext_RadioButton", 345, 155},
+            {"m_hext_Label1", 65, 230},
+            {"m_hext_lineEdit", 65, 248},
+            {"m_hextbypass_Label", 83, 280},
+            {"m_hextbypass_ComboBox", 65, 298},
+            {"m_hext_In", 18, 250},
+            {"m_hext_Out", 6, 261},
+            {"m_hick_Label", 80, 381},
+            {"m_pllrc_Label", 332, 220},
+            {"m_pllrcs_hext_RadioButton", 342, 256},
+            {"m_pllrcs_hick_RadioButton", 342, 316},
+            {"m_sclkselect_Label", 712, 170},
+            {"m_sclkselect_hext_RadioButton", 738, 232},
+            {"m_sclkselect_pll_RadioButton", 738, 290},
+            {"m_sclkselect_hick_RadioButton", 738, 347},
+            {"m_sclk_lineEdit", 783, 282},
+            {"m_ahbdiv_Label", 934, 263},
+            {"m_ahbdiv_ComboBox", 924, 283},
+            {"m_apb1div_ComboBox", 1035, 448},
+            {"m_apb2div_ComboBox", 1035, 613},
+            {"m_tosystick_div", 1092, 89},
+            {"m_toapb1tmr_mul", 1092, 486},
+            {"m_toapb2tmr_mul", 1092, 653},
+            {"m_usbdiv_Label", 720, 433},
+            {"m_usbdiv_ComboBox", 710, 408},
+            {"m_tousb_Label", 850, 410},
+            {"m_tousbswitch_ComboBox", 840, 430},
+            {"m_toi2s_lineEdit", 1177, 41},
+            {"m_tosystick_lineEdit", 1177, 92},
+            {"m_tosido_lineEdit", 1177, 134},
+            {"m_todma_lineEdit", 1177, 179},
+            {"m_toxmc_lineEdit", 1177, 221},
+            {"m_toapb1peripheral_lineEdit", 1177, 446},
+            {"m_toapb1tmr_lineEdit", 1177, 530},
+            {"m_toapb2peripheral_lineEdit", 1177, 613},
+            {"m_toapb2tmr_lineEdit", 1177, 698},
+            {"m_toapb1periphera_list_group", 1262, 491},
+            {"m_toapb1tmr_list_group", 1262, 575},
+            {"m_toapb2periphera_list_group", 1262, 658},
+            {"m_toapb2tmr_list_group", 1262, 563},
+        });
+}
+
 Places places()
 {
-    return {
-        // low speed oscillators and RTC
-        labelAt("m_lick_Label", 80, 20, "lick(kHz)"),
-        editAt("m_lick_lineEdit", 65, 37, "40"),
-        outputAt("m_towdt_lineEdit", 510, 17, "to wdt(kHz)"),
-        comboAt("m_tortc_ComboBox", 405, 102, 80),
-        outputAt("m_tortc_lineEdit", 510, 102),
+    return movedPlaces().with({
         labelAt("m_tortc_Label", 595, 105, "to ertc(kHz)", 9),
-        labelAt("m_lext_Label1", 80, 82, "lext(kHz)"),
-        editAt("m_lext_lineEdit", 65, 99, "32.768"),
-        labelAt("m_lextbypass_Label", 83, 130, "bypass"),
-        comboAt("m_lextbypass_ComboBox", 65, 148, 80),
-        labelAt("m_lext_In", 18, 101, "IN", 8),
-        labelAt("m_lext_Out", 6, 112, "OUT", 8),
         labelAt("m_rtcsel_Label", 332, 186, "ertcsel"),
-        radioAt("m_rtcsel_lick_RadioButton", 345, 45),
-        radioAt("m_rtcsel_lext_RadioButton", 345, 107),
-        radioAt("m_rtcsel_hext_RadioButton", 345, 155),
         labelAt("m_rtcdiv_Label", 250, 135, "ertcdiv"),
         comboAt("m_rtcdiv_ComboBox", 240, 150, 60, 1),
-        // high speed oscillators
-        labelAt("m_hext_Label1", 65, 230, "hext(4-25MHz)"),
-        editAt("m_hext_lineEdit", 65, 248, "8"),
-        labelAt("m_hextbypass_Label", 83, 280, "bypass"),
-        comboAt("m_hextbypass_ComboBox", 65, 298, 80),
-        labelAt("m_hext_In", 18, 250, "IN", 8),
-        labelAt("m_hext_Out", 6, 261, "OUT", 8),
-        labelAt("m_hick_Label", 80, 381, "hick(MHz)"),
         editAt("m_hick_lineEdit", 65, 399, "48"),
         labelAt("m_hicktosclk_Label", 267, 440, "hick to sclk"),
         radioAt("m_hicktosclk_div6_RadioButton", 288, 357),
         radioAt("m_hicktosclk_RadioButton", 288, 407),
-        // PLL
-        labelAt("m_pllrc_Label", 332, 220, "pllrcs"),
-        radioAt("m_pllrcs_hext_RadioButton", 342, 256),
-        radioAt("m_pllrcs_hick_RadioButton", 342, 316),
         labelAt("m_pllms_Label1", 410, 262, "pll_ms"),
         editAt("m_pllms_lineEdit", 395, 282, "1"),
         labelAt("m_pllms_Label2", 405, 313, "(1-15)"),
@@ -54,38 +94,18 @@ Places places()
         labelAt("m_pllCFG_Label", 420, 230, "CRM_PLLCFG : ", 10, 75),
         editAt("m_pllCFG_Value_lineEdit", 510, 227, "0x08000000"),
         labelAt("m_pllclk_Label", 650, 275, "", 10, 75),
-        // system clock
-        labelAt("m_sclkselect_Label", 712, 170, "sclk select"),
-        radioAt("m_sclkselect_hext_RadioButton", 738, 232),
-        radioAt("m_sclkselect_pll_RadioButton", 738, 290),
-        radioAt("m_sclkselect_hick_RadioButton", 738, 347),
         labelAt("m_sclk_Label", 775, 262, "sclk(4 - %1 MHz)", 9),
-        editAt("m_sclk_lineEdit", 783, 282),
         labelAt("m_sclkWarning1_QLabel", 775, 315, "Useage limited:", 10, 75),
         labelAt("m_sclkWarning2_QLabel", 775, 332, "Temperature range - 40~85 degree. "),
         labelAt("m_sclkWarning3_QLabel", 775, 349, "VDD must over 3.0V. "),
-        // buses
-        labelAt("m_ahbdiv_Label", 934, 263, "ahbdiv"),
-        comboAt("m_ahbdiv_ComboBox", 924, 283, 60, 1),
         labelAt("m_apb1div_Label", 1040, 428, "apb1div"),
         labelAt("m_apb1divMax_Label", 1090, 438, "144MHz max"),
-        comboAt("m_apb1div_ComboBox", 1035, 448, 55, 2),
         labelAt("m_apb2div_Label", 1040, 593, "apb2div"),
         labelAt("m_apb2divMax_Label", 1090, 603, "144MHz max"),
-        comboAt("m_apb2div_ComboBox", 1035, 613, 55, 1),
-        editAt("m_tosystick_div", 1092, 89),
-        editAt("m_toapb1tmr_mul", 1092, 486),
-        editAt("m_toapb2tmr_mul", 1092, 653),
-        // USB
-        labelAt("m_usbdiv_Label", 720, 433, "usbdiv"),
-        comboAt("m_usbdiv_ComboBox", 710, 408, 60),
         labelAt("m_hicktousb_Label", 768, 490, "hick to usb"),
         radioAt("m_tousb_pll_RadioButton", 795, 415),
         radioAt("m_tousb_hick_RadioButton", 795, 455),
-        labelAt("m_tousb_Label", 850, 410, "to usb"),
-        comboAt("m_tousbswitch_ComboBox", 840, 430, 70),
         labelAt("m_usbclock_Label", 920, 460, "", 10, 70),
-        // clock output 1
         labelAt("m_clockout1pin_Label", 136, 496, "select pin"),
         comboAt("m_clockout1pin_ComboBox", 125, 515, 80),
         labelAt("m_clockout1div2_Label", 257, 495, "clockout1div2"),
@@ -106,7 +126,6 @@ Places places()
         labelAt("m_clockout1_pll_QLabel", 612, 551, ""),
         labelAt("m_clockout1_QLabel", 500, 585, "clkout1"),
         labelAt("m_clockout1_Value_QLabel", 50, 545, "", 10, 70),
-        // clock output 2
         labelAt("m_clockout2pin_Label", 136, 674, "select pin"),
         comboAt("m_clockout2pin_ComboBox", 125, 694, 80, 1),
         labelAt("m_clockout2div2_Label", 257, 674, "clockout2div2"),
@@ -139,25 +158,11 @@ Places places()
         labelAt("m_clockout2_lext_QLabel", 612, 768, ""),
         labelAt("m_clockout2_QLabel", 500, 807, "clkout2"),
         labelAt("m_clockout2_Value_QLabel", 50, 723, "", 10, 70),
-        // output column
-        outputAt("m_toi2s_lineEdit", 1177, 41, "i2s (MHz)"),
-        outputAt("m_tosystick_lineEdit", 1177, 92, "systick(MHz)"),
-        outputAt("m_tosido_lineEdit", 1177, 134, "sdio (MHz)"),
-        outputAt("m_todma_lineEdit", 1177, 179, "dma (MHz)"),
-        outputAt("m_toxmc_lineEdit", 1177, 221, "xmc (MHz)"),
         outputAt("m_togpio_lineEdit", 1177, 263, "gpio (MHz)"),
         outputAt("m_todvp_lineEdit", 1177, 303, "dvp (MHz)"),
         outputAt("m_toqspi_lineEdit", 1177, 345, "qspi (MHz)"),
         outputAt("m_toadc_lineEdit", 1177, 389, "adc (MHz)"),
-        outputAt("m_toapb1peripheral_lineEdit", 1177, 446, "apb1 peripheral (MHz)"),
-        outputAt("m_toapb1tmr_lineEdit", 1177, 530, "apb1 tmr (MHz)"),
-        outputAt("m_toapb2peripheral_lineEdit", 1177, 613, "apb2 peripheral (MHz)"),
-        outputAt("m_toapb2tmr_lineEdit", 1177, 698, "apb2 tmr (MHz)"),
-        groupAt("m_toapb1periphera_list_group", 1262, 491),
-        groupAt("m_toapb1tmr_list_group", 1262, 575),
-        groupAt("m_toapb2periphera_list_group", 1262, 658),
-        groupAt("m_toapb2tmr_list_group", 1262, 563),
-    };
+    });
 }
 
 std::vector<const char*> controls()
@@ -214,6 +219,16 @@ std::vector<StartValue> start()
     };
 }
 
+std::vector<double> firstDivisors()
+{
+    return listOf(divisors::clockOutputFirst);
+}
+
+std::vector<double> secondDivisors()
+{
+    return listOf(divisors::clockOutput);
+}
+
 ClockOutputDescription clockOutput1()
 {
     ClockOutputDescription output;
@@ -230,10 +245,8 @@ ClockOutputDescription clockOutput1()
     };
     output.pins = {"PA8", "PE4"};
     output.dividers = {
-        {"New_clockout1div1", "m_clockout1div1", "clkout1div1", listOf(divisors::clockOutputFirst),
-         MODEL_FIELD(CLKOUT1_Div1)},
-        {"New_clockout1div2", "m_clockout1div2", "clkout1div2", listOf(divisors::clockOutput),
-         MODEL_FIELD(CLKOUT1_Div2)},
+        {"New_clockout1div1", "m_clockout1div1", "clkout1div1", firstDivisors(),  MODEL_FIELD(CLKOUT1_Div1)},
+        {"New_clockout1div2", "m_clockout1div2", "clkout1div2", secondDivisors(), MODEL_FIELD(CLKOUT1_Div2)},
     };
     output.fallback = CLKOUT1_HICK;
     return output;
@@ -241,7 +254,7 @@ ClockOutputDescription clockOutput1()
 
 ClockOutputDescription clockOutput2()
 {
-    ClockOutputDescription output;
+    ClockOutputDescription output = clockOutput1();
     output.stem = "clockout2";
     output.setting = "clkout2";
     output.pinSetting = "clkout2pinselect";
@@ -259,32 +272,20 @@ ClockOutputDescription clockOutput2()
     };
     output.pins = {"PC9"};
     output.dividers = {
-        {"New_clockout2div1", "m_clockout2div1", "clkout2div1", listOf(divisors::clockOutputFirst),
-         MODEL_FIELD(CLKOUT2_Div1)},
-        {"New_clockout2div2", "m_clockout2div2", "clkout2div2", listOf(divisors::clockOutput),
-         MODEL_FIELD(CLKOUT2_Div2)},
+        {"New_clockout2div1", "m_clockout2div1", "clkout2div1", firstDivisors(),  MODEL_FIELD(CLKOUT2_Div1)},
+        {"New_clockout2div2", "m_clockout2div2", "clkout2div2", secondDivisors(), MODEL_FIELD(CLKOUT2_Div2)},
     };
     output.fallback = CLKOUT2_HICK;
     return output;
 }
 
-std::vector<ListGroup> listGroups()
+std::vector<ListGroup> lists()
 {
-    return {
-        {"m_toapb1peripheral_List_Button",
-         "m_toapb1periphera_list_group", "m_toapb1peripheral_lineEdit",
-         {"SPI2", "SPI3", "USART2", "USART3", "UART4", "UART5", "UART7", "UART8", "I2C1", "I2C2", "I2C3",
-          "CAN1", "CAN2", "DAC"}                                                    },
-        {"m_toapb1tmr_List_Button",
-         "m_toapb1tmr_list_group",       "m_toapb1tmr_lineEdit",
-         {"TMR2", "TMR3", "TMR4", "TMR5", "TMR6", "TMR7", "TMR12", "TMR13", "TMR14"}},
-        {"m_toapb2peripheral_List_Button",
-         "m_toapb2periphera_list_group", "m_toapb2peripheral_lineEdit",
-         {"SPI1", "SPI4", "USART1", "USART6", "SCFG"}                               },
-        {"m_toapb2tmr_List_Button",
-         "m_toapb2tmr_list_group",       "m_toapb2tmr_lineEdit",
-         {"TMR1", "TMR8", "TMR9", "TMR10", "TMR11", "TMR20"}                        },
-    };
+    return descriptionparts::lists(
+        {"SPI2", "SPI3", "USART2", "USART3", "UART4", "UART5", "UART7", "UART8", "I2C1", "I2C2", "I2C3",
+         "CAN1", "CAN2", "DAC"},
+        {"TMR2", "TMR3", "TMR4", "TMR5", "TMR6", "TMR7", "TMR12", "TMR13", "TMR14"},
+        {"SPI1", "SPI4", "USART1", "USART6", "SCFG"}, {"TMR1", "TMR8", "TMR9", "TMR10", "TMR11", "TMR20"});
 }
 
 PageLimits limits()
@@ -319,34 +320,13 @@ PageDescription describe()
                          "clkout1div1", "clkout1div2", "clkout2pinselect", "clkout2",
                          "clkout2div1", "clkout2div2"};
     page.limits = limits();
-    page.hardLimits = {
-        {Clock::Sysclk, 288.0, 288, "Can not support sclk greater than"     },
-        {Clock::Apb1,   144.0, 144, "Can not support apb1clk greater than"  },
-        {Clock::Apb2,   144.0, 144, "Can not support apb2clk greater than"  },
-        {Clock::Pll,    288.0, 288, "Can not support pll clock greater than"},
-    };
-    page.softLimits = {
-        {SoftLimitKind::Usb48, 48.0,
-         "USB clock must be 48MHz. But the USB clock of current config is wrong.  please confirm whether to "
-         "continue?"},
-    };
+    page.hardLimits = descriptionparts::hardLimits(page.limits);
+    page.softLimits = {descriptionparts::usbClock()};
     page.usbDivisors = listOf(divisors::usbHalfStepsTo7);
-    page.outputs = {
-        {"m_toi2s_lineEdit",     Clock::Sysclk},
-        {"m_tosystick_lineEdit", Clock::Ahb,    8.0},
-        {"m_tosido_lineEdit",                      Clock::Ahb                },
-        {"m_todma_lineEdit",                      Clock::Ahb },
-        {"m_toxmc_lineEdit",                      Clock::Ahb                },
-        {"m_togpio_lineEdit",                      Clock::Ahb},
-        {"m_todvp_lineEdit",                      Clock::Ahb                 },
-        {"m_toqspi_lineEdit",                      Clock::Ahb},
-        {"m_toadc_lineEdit",                      Clock::Ahb                  },
-        {"m_toapb1peripheral_lineEdit",                      Clock::Apb1},
-        {"m_toapb1tmr_lineEdit",                      Clock::Apb1Timer                         },
-        {"m_toapb2peripheral_lineEdit",                      Clock::Apb2},
-        {"m_toapb2tmr_lineEdit",                      Clock::Apb2Timer                                },
-    };
-    page.listGroups = listGroups();
+    page.outputs = descriptionparts::outputs({"m_tosido_lineEdit", "m_todma_lineEdit", "m_toxmc_lineEdit",
+                                              "m_togpio_lineEdit", "m_todvp_lineEdit", "m_toqspi_lineEdit",
+                                              "m_toadc_lineEdit"});
+    page.listGroups = lists();
     page.clockOutputs = {clockOutput1(), clockOutput2()};
     page.alwaysSearchesUsb = true;
     return page;

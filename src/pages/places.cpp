@@ -16,11 +16,26 @@ Places Places::with(std::initializer_list<ControlPlace> places) const
     return all;
 }
 
-Places Places::without(std::initializer_list<const char*> names) const
+Places Places::moved(std::initializer_list<ControlMove> moves) const
+{
+    Places all(*this);
+    for (const ControlMove& move : moves) {
+        ControlPlace place = at(QLatin1String(move.name));
+        place.x = move.x;
+        place.y = move.y;
+        all.m_places.insert(QLatin1String(move.name), place);
+    }
+    return all;
+}
+
+Places Places::without(std::initializer_list<const char*> stems) const
 {
     Places rest(*this);
-    for (const char* name : names)
-        rest.m_places.remove(QLatin1String(name));
+    for (const char* stem : stems) {
+        for (const QString& name : m_places.keys())
+            if (name.startsWith(QLatin1String(stem)))
+                rest.m_places.remove(name);
+    }
     return rest;
 }
 

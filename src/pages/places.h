@@ -19,6 +19,14 @@ struct ControlPlace
     int weight = 0; ///< QFont weight, 75 is bold
 };
 
+/// Another position for a control that stays as it is otherwise.
+struct ControlMove
+{
+    const char* name;
+    int x;
+    int y;
+};
+
 /// The places of all controls of a series, by name: the one answer to every question of position, for the
 /// control factory as well as for the painter of the picture.
 class Places
@@ -26,9 +34,12 @@ class Places
 public:
     Places(std::initializer_list<ControlPlace> places);
 
-    /// A sibling's places with some of them moved or added.
+    /// A sibling's places with some controls at other positions. A name that the sibling lacks is a fault.
+    Places moved(std::initializer_list<ControlMove> moves) const;
+    /// A sibling's places with some controls replaced or added.
     Places with(std::initializer_list<ControlPlace> places) const;
-    Places without(std::initializer_list<const char*> names) const;
+    /// A sibling's places without the controls whose names begin so.
+    Places without(std::initializer_list<const char*> stems) const;
 
     bool has(const QString& name) const { return m_places.contains(name); }
     /// The place of a control. A name without a place is a fault in the series' description and ends the
