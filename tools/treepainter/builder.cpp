@@ -77,7 +77,7 @@ QRectF around(const QPointF& middle, double width, double height)
     return {middle.x() - width / 2, middle.y() - height / 2, width, height};
 }
 
-/// The outline of a multiplexer whose nose is right, in a rectangle at the origin, turned as asked.
+/// A trapezoid that fills the rectangle, short at the nose.
 QPolygonF muxOutline(const QRectF& rect, Side nose)
 {
     const double slope = muxSlope;

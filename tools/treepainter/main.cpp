@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QFontInfo>
 #include <QLoggingCategory>
 
 #include <cstdio>
@@ -18,6 +19,14 @@ namespace {
 void say(const QString& message)
 {
     std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+/// The places on the pages are made for the widths of Arial; a wider font pushes labels across wires.
+void tellFont()
+{
+    const QString family = QFontInfo(QFont(QStringLiteral("Arial"))).family();
+    if (family != QLatin1String("Arial") && family != QLatin1String("Liberation Sans"))
+        say(QStringLiteral("Arial is drawn as %1: install the Liberation fonts").arg(family));
 }
 
 int paint(const QString& series, const QString& tree, const QString& output, const QString& review)
@@ -43,8 +52,10 @@ int paint(const QString& series, const QString& tree, const QString& output, con
         say(QStringLiteral("%1 cannot be written").arg(review));
         return 1;
     }
-    if (!problems.empty())
+    if (!problems.empty()) {
+        tellFont();
         return 1;
+    }
     if (!picture.save(output, "BMP")) {
         say(QStringLiteral("%1 cannot be written").arg(output));
         return 1;
