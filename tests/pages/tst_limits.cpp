@@ -121,12 +121,17 @@ QString fileDialog(bool saves)
     return saves ? QStringLiteral("Save") : QStringLiteral("Select directory");
 }
 
-const DialogAnswers::Answer ok = DialogAnswers::press("Ok");
-// Where no box is left to agree to, the file dialog is closed at once.
-const DialogAnswers::Answer yes = [](QDialog* dialog) {
-    (qobject_cast<QMessageBox*>(dialog) ? DialogAnswers::press("Yes") : DialogAnswers::close())(dialog);
-};
-const DialogAnswers::Answer cancel = DialogAnswers::press("Cancel");
+/// Presses the button, or closes the file dialog where no box is left.
+DialogAnswers::Answer press(const char* button)
+{
+    return [button](QDialog* dialog) {
+        (qobject_cast<QMessageBox*>(dialog) ? DialogAnswers::press(button) : DialogAnswers::close())(dialog);
+    };
+}
+
+const DialogAnswers::Answer ok = press("Ok");
+const DialogAnswers::Answer yes = press("Yes");
+const DialogAnswers::Answer cancel = press("Cancel");
 
 } // namespace
 
