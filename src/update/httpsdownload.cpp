@@ -56,6 +56,7 @@ HttpsDownload::HttpsDownload(QWidget* parent) : m_parent(parent)
 
 HttpsDownload::~HttpsDownload()
 {
+    // The loop was left from outside: the program is being quit.
     if (reply != nullptr)
         abandonTransfer();
 }
@@ -128,9 +129,6 @@ bool HttpsDownload::runTransfer(const QUrl& source, qint64 totalBytes)
     m_downloadSucessFlag = false;
     startRequest(source, totalBytes);
     loop.exec();
-    // The program is being quit: the loop was left from outside.
-    if (reply != nullptr)
-        abandonTransfer();
     return m_downloadSucessFlag;
 }
 
@@ -182,7 +180,7 @@ void HttpsDownload::httpFinished()
         leaveLoop(false);
         return;
     }
-    if (!m_writeError.isNull() || reply->error() != QNetworkReply::NoError) {
+    if (reply->error() != QNetworkReply::NoError) {
         failTransfer(path, m_writeError.isNull() ? reply->errorString() : m_writeError);
         return;
     }

@@ -53,13 +53,13 @@ void OnlineUpdate::OnlineDownload()
         showStored(folder, target);
 }
 
-// Silent: without a connection nothing is shown at all. The list does not outlive this step.
+// Silent: without a connection nothing is shown at all, and an older list is replaced without a question. The
+// list does not outlive this step.
 bool OnlineUpdate::fetchOffer(HttpsDownload& download, Offer& offer) const
 {
     const QString address = m_site.baseAddress + ListName;
     qDebug().noquote() << address;
     QString path = QDir::currentPath();
-    QFile::remove(path + QLatin1Char('/') + ListName);
     if (!download.downloadFile(address, path, QString(), 0))
         return false;
     const auto text = [&path](const QString& tag) {

@@ -40,6 +40,8 @@ void BoxWatcher::look()
             onProgress(*progress);
     } else if (onOther) {
         onOther(*front);
+    } else {
+        front->close();
     }
 }
 

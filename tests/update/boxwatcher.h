@@ -22,7 +22,7 @@ public:
 
     /// Called now and then while a progress dialog is the window in front.
     std::function<void(ProgressDialog&)> onProgress;
-    /// Called now and then while any other modal window is in front.
+    /// Called now and then while any other modal window is in front; without it, such a window is closed.
     std::function<void(QWidget&)> onOther;
 
 private:
