@@ -51,7 +51,8 @@ void Tour::expectText(const char* name, const QString& text)
 
 void Tour::shoot(const char* name)
 {
-    QApplication::processEvents();
+    // Labels grow to their new texts with the next events, and the screen shows it a frame later.
+    QTest::qWait(50);
     const QString file =
         QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
     QGuiApplication::primaryScreen()->grabWindow(0).save(path(file));
