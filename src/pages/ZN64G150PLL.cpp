@@ -149,7 +149,7 @@ Places places()
         labelAt("m_clockout2_hick_QLabel", 612, 706, ""),
         radioAt("m_clockout2_adcclk_RadioButton", 514, 730),
         labelAt("m_clockout2_adcclk_QLabel1", 572, 727, "adcclk"),
-        labelAt("m_clockout2_adcclk_QLabel", 622, 727, ""),
+        labelAt("m_clockout2_adcclk_QLabel", 612, 727, ""),
         radioAt("m_clockout2_lick_RadioButton", 514, 751),
         labelAt("m_clockout2_lick_QLabel1", 572, 748, "lick"),
         labelAt("m_clockout2_lick_QLabel", 612, 748, ""),
