@@ -54,10 +54,24 @@ void ClockOutputBlock::New_clockout()
         m_choices.push_back({source.value, m_rows.back().radio});
     }
     m_title = label(member("_QLabel"));
-    addSetting(m_description.setting,
-               settings::whole(
-                   model(), m_description.field, [this](double value) { checkValue(m_choices, value); },
-                   settings::oneOf(valuesOf(m_choices), m_description.rows.front().value)));
+    addSetting(m_description.setting, sourceSetting());
+}
+
+Setting ClockOutputBlock::sourceSetting()
+{
+    Setting setting = settings::whole(
+        model(), m_description.field, [](double) {},
+        settings::oneOf(valuesOf(m_choices), m_description.rows.front().value));
+    // The buttons follow the model: a source that is off falls back at once and takes the model along.
+    setting.set = [this, set = setting.set](double value) {
+        set(value);
+        checkValue(m_choices, value);
+    };
+    setting.read = [this, read = setting.read](const QString& text) {
+        read(text);
+        checkValue(m_choices, m_description.field.get(model()));
+    };
+    return setting;
 }
 
 ClockOutputBlock::Row ClockOutputBlock::makeRow(const ClockOutputRow& source, QButtonGroup* group) const
