@@ -4,8 +4,8 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Arial is drawn with the Liberation fonts, the desktop's own texts with DejaVu, Chinese with Micro Hei. Xvfb stands in for a display, and
-# openbox for the window manager on it.
+# Arial is drawn with the Liberation fonts, the desktop's own texts with DejaVu, Chinese with Micro Hei. Xvfb stands in
+# for a display, and openbox for the window manager on it.
 PACKAGES=(
     cmake ninja-build ccache g++ clang-format
     qtbase5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev
