@@ -127,16 +127,15 @@ void TestControls::comboOpensAtItsPlace()
     QVERIFY(popup);
     const QRectF combo = ZN64MCUPLL::proxyOf(m_combo)->sceneBoundingRect();
     const QRectF opened = popup->sceneBoundingRect();
-    const QByteArray where = QTest::toString(opened);
-    QVERIFY2(qAbs(opened.left() - combo.left()) < 10, where.constData());
-    QVERIFY2(opened.adjusted(0, -5, 0, 5).intersects(combo), where.constData());
-    QVERIFY2(opened.width() >= combo.width() - 10 && opened.height() >= 2 * combo.height(),
-             where.constData());
+    const QScopedArrayPointer<char> where(QTest::toString(opened));
+    QVERIFY2(qAbs(opened.left() - combo.left()) < 10, where.data());
+    QVERIFY2(opened.adjusted(0, -5, 0, 5).intersects(combo), where.data());
+    QVERIFY2(opened.width() >= combo.width() - 10 && opened.height() >= 2 * combo.height(), where.data());
 
     const QRect item = list->visualRect(m_combo->model()->index(2, 0));
     const QPoint inPopup = list->viewport()->mapTo(list->parentWidget(), item.center());
     const QPoint target = m_page->view()->mapFromScene(popup->mapToScene(inPopup));
-    QVERIFY2(viewport()->rect().contains(target), where.constData());
+    QVERIFY2(viewport()->rect().contains(target), where.data());
     click(target);
     QTRY_VERIFY(!list->isVisible());
     QCOMPARE(m_combo->currentText(), QStringLiteral("PA9"));
