@@ -25,44 +25,19 @@ Outcome execute(const QString& program, const QStringList& arguments)
     return {good, QString::fromLocal8Bit(process.readAllStandardOutput()), errors};
 }
 
-QStringList compilerOptions(const QString& base)
+Outcome build(const QString& base, const QString& stem, const QString& program)
 {
-    const QString folder = QStringLiteral(FIRMWARE_DIR);
     // A design that never waits leaves the template's delay function without a caller.
-    return {QStringLiteral("-std=c11"),
-            QStringLiteral("-Wall"),
-            QStringLiteral("-Wextra"),
-            QStringLiteral("-Werror"),
-            QStringLiteral("-Wno-unused-function"),
-            QStringLiteral("-I") + base + QStringLiteral("/inc"),
-            QStringLiteral("-I") + folder + QStringLiteral("/include"),
-            QStringLiteral("-I" FIRMWARE_MODULES_DIR)};
-}
-
-QString clockSource(const QString& base, const QString& stem)
-{
-    return base + QStringLiteral("/src/") + stem + QStringLiteral("_clock.c");
-}
-
-QString mainSource(const QString& base)
-{
-    return base + QStringLiteral("/src/main.c");
-}
-
-/// main.c becomes an object of its own, for only there the run's macros apply.
-Outcome buildProgram(const QString& base, const QString& stem, const QString& program)
-{
-    const QString object = program + QStringLiteral("_main.o");
-    QStringList arguments = compilerOptions(base);
-    arguments << QStringLiteral("-include") << QStringLiteral("firmware_run.h") << QStringLiteral("-c")
-              << mainSource(base) << QStringLiteral("-o") << object;
-    const Outcome main = execute(QStringLiteral(FIRMWARE_COMPILER), arguments);
-    if (!main.good)
-        return main;
-    arguments = compilerOptions(base);
-    arguments << QStringLiteral("-DFIRMWARE_CHIP_HEADER=\"%1.h\"").arg(stem) << object
-              << clockSource(base, stem) << QStringLiteral(FIRMWARE_DIR "/firmware.c") << QStringLiteral("-o")
-              << program;
+    QStringList arguments =
+        QStringLiteral("-std=c11 -Wall -Wextra -Werror -Wno-unused-function").split(QLatin1Char(' '));
+    for (const QString& folder :
+         {base + QStringLiteral("/inc"), base + QStringLiteral("/src"),
+          QStringLiteral(FIRMWARE_DIR "/include"), QStringLiteral(FIRMWARE_MODULES_DIR)})
+        arguments << QStringLiteral("-I") + folder;
+    arguments << QStringLiteral("-DFIRMWARE_CHIP_HEADER=\"%1.h\"").arg(stem)
+              << base + QStringLiteral("/src/%1_clock.c").arg(stem)
+              << QStringLiteral(FIRMWARE_DIR "/generatedmain.c") << QStringLiteral(FIRMWARE_DIR "/firmware.c")
+              << QStringLiteral("-o") << program;
     return execute(QStringLiteral(FIRMWARE_COMPILER), arguments);
 }
 } // namespace
@@ -76,17 +51,10 @@ bool generate(ZN64ConfigCLK& clock, const QString& base, const QString& stem)
     return QDir().mkpath(inc) && QDir().mkpath(src) && clock.GenerateCode(inc, src, stem);
 }
 
-QString compile(const QString& base, const QString& stem)
-{
-    const QStringList arguments = compilerOptions(base) << QStringLiteral("-fsyntax-only")
-                                                        << clockSource(base, stem) << mainSource(base);
-    return execute(QStringLiteral(FIRMWARE_COMPILER), arguments).errors;
-}
-
 Run run(const QString& base, const QString& stem)
 {
     const QString program = base + QStringLiteral("/program");
-    const Outcome built = buildProgram(base, stem, program);
+    const Outcome built = build(base, stem, program);
     if (!built.good)
         return {built.errors, {}, {}};
     const Outcome ended = execute(program, {});

@@ -16,18 +16,14 @@ struct Run
     QString errors;
     /// One entry a call, in order, with the arguments' values: "crm_ahb_div_set 8".
     QStringList calls;
-    /// The clocks in Hz at the end: sclk, ahb, apb1, apb2, apb3, usb; and 1 or 0 for what runs: hext, hick,
-    /// pll, lext, lick.
+    /// The clocks in Hz at the end: sclk, ahb, apb1, apb2, usb; and 1 or 0 for what runs: hext, pll, lext.
     QMap<QString, qint64> clocks;
 };
 
 /// Generates the four files of the stem below the base folder, as the preview does: without questions.
 bool generate(ZN64ConfigCLK& clock, const QString& base, const QString& stem);
 
-/// Compiles both sources below the base folder with warnings as errors, but for an unused delay function.
-/// Empty if they compile.
-QString compile(const QString& base, const QString& stem);
-
-/// Compiles, links and runs the program below the base folder up to its endless loop.
+/// Compiles the program below the base folder with warnings as errors, but for an unused delay function, and
+/// runs it up to its endless loop.
 Run run(const QString& base, const QString& stem);
 } // namespace firmware

@@ -1,12 +1,7 @@
-/* Every call with one or two plain arguments: what it is named, what it takes, and where a run keeps it. */
-SETS(crm_hext_clock_div_set, crm_hext_div_type, hext_div)
-SETS(crm_pllu_div_set, crm_pll_fu_type, fu)
+/* Every call with one plain argument: what it is named, what it takes, and where a run keeps it. */
 SETS(crm_ahb_div_set, crm_ahb_div_type, ahb)
 SETS(crm_apb1_div_set, crm_apb1_div_type, apb1)
 SETS(crm_apb2_div_set, crm_apb2_div_type, apb2)
-SETS(crm_apb3_div_set, crm_apb3_div_type, apb3)
-SETS(crm_hext_sclk_div_set, crm_hext_sclk_div_type, hext_sclk)
-SETS(crm_hick_sclk_div_set, crm_hick_sclk_div_type, hick_sclk)
 SETS(crm_hick_sclk_frequency_select, crm_hick_sclk_frequency_type, hick48)
 SETS(crm_auto_step_mode_enable, confirm_state, step_mode)
 SETS(crm_usb_clock_div_set, crm_usb_div_type, usb_half_steps)
@@ -15,13 +10,5 @@ SETS(crm_clock_out1_set, crm_clkout1_select_type, unused)
 SETS(crm_clock_out2_set, crm_clkout2_select_type, unused)
 SETS(crm_battery_powered_domain_reset, confirm_state, unused)
 SETS(crm_adc_clock_div_set, crm_adc_div_type, unused)
-SETS(crm_adc_clock_select, crm_adc_clock_source_type, unused)
-SETS(crm_i2sf5_clock_select, crm_i2sf5_clock_source_type, unused)
-SETS(flash_psr_set, flash_wait_cycle_type, unused)
 SETS(flash_clock_divider_set, flash_clock_divider_type, unused)
-SETS(delay_ms, uint32_t, unused)
-SETS2(crm_usart_clock_select, crm_usart_type, crm_usart_clock_source_type)
-SETS2(crm_i2c_clock_select, crm_i2c_type, crm_i2c_clock_source_type)
-SETS2(crm_can_clock_select, crm_can_type, crm_can_clock_source_type)
 #undef SETS
-#undef SETS2

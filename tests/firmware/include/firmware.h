@@ -28,8 +28,7 @@ typedef enum {
   CRM_CLOCK_SOURCE_HICK, CRM_CLOCK_SOURCE_HEXT, CRM_CLOCK_SOURCE_PLL, CRM_CLOCK_SOURCE_LEXT, CRM_CLOCK_SOURCE_LICK
 } crm_clock_source_type;
 typedef enum {
-  CRM_HICK_STABLE_FLAG, CRM_HEXT_STABLE_FLAG, CRM_PLL_STABLE_FLAG, CRM_LEXT_STABLE_FLAG, CRM_LICK_STABLE_FLAG,
-  CRM_PLLU_STABLE_FLAG
+  CRM_HICK_STABLE_FLAG, CRM_HEXT_STABLE_FLAG, CRM_PLL_STABLE_FLAG, CRM_LEXT_STABLE_FLAG, CRM_LICK_STABLE_FLAG
 } crm_flag_type;
 typedef enum { CRM_PLL_SOURCE_HICK, CRM_PLL_SOURCE_HEXT, CRM_PLL_SOURCE_HEXT_DIV } crm_pll_clock_source_type;
 typedef enum {
@@ -39,13 +38,6 @@ typedef enum {
 } crm_pll_mult_type;
 typedef enum { CRM_PLL_OUTPUT_RANGE_LE72MHZ, CRM_PLL_OUTPUT_RANGE_GT72MHZ } crm_pll_output_range_type;
 typedef enum { FIVE(CRM_PLL_FR_), IS(CRM_PLL_FR_, 32) } crm_pll_fr_type;
-#define P(n) CRM_PLL_FP_##n = n
-typedef enum {
-  P(1), P(2), P(4), P(6), P(8), P(10), P(12), P(14), P(16), P(18), P(20), P(22), P(24), P(26), P(28), P(30)
-} crm_pll_fp_type;
-#define U(n) CRM_PLL_FU_##n = n
-typedef enum { U(11), U(12), U(13), U(14), U(16), U(18), U(20) } crm_pll_fu_type;
-typedef enum { CRM_HEXT_DIV_2 = 2, CRM_HEXT_DIV_3, CRM_HEXT_DIV_4, CRM_HEXT_DIV_5 } crm_hext_div_type;
 
 /* system clock, buses, flash and power */
 typedef enum { CRM_SCLK_HICK, CRM_SCLK_HEXT, CRM_SCLK_PLL } crm_sclk_type;
@@ -53,11 +45,7 @@ typedef enum { CRM_HICK_SCLK_8MHZ, CRM_HICK_SCLK_48MHZ } crm_hick_sclk_frequency
 typedef enum { NINE(CRM_AHB_DIV_) } crm_ahb_div_type;
 typedef enum { FIVE(CRM_APB1_DIV_) } crm_apb1_div_type;
 typedef enum { FIVE(CRM_APB2_DIV_) } crm_apb2_div_type;
-typedef enum { FIVE(CRM_APB3_DIV_) } crm_apb3_div_type;
-typedef enum { FIVE(CRM_HEXT_SCLK_DIV_), IS(CRM_HEXT_SCLK_DIV_, 32) } crm_hext_sclk_div_type;
-typedef enum { FIVE(CRM_HICK_SCLK_DIV_) } crm_hick_sclk_div_type;
 typedef enum { FLASH_CLOCK_DIV_2 = 2, FLASH_CLOCK_DIV_3 } flash_clock_divider_type;
-typedef enum { TEN(FLASH_WAIT_CYCLE_) } flash_wait_cycle_type;
 typedef enum {
   PWC_LDO_OUTPUT_1V0 = 10, PWC_LDO_OUTPUT_1V1, PWC_LDO_OUTPUT_1V2, PWC_LDO_OUTPUT_1V3
 } pwc_ldo_output_voltage_type;
@@ -66,7 +54,7 @@ typedef enum {
 #define H(n) CRM_USB_DIV_##n = 2 * n, CRM_USB_DIV_##n##_5
 typedef enum { H(1), H(2), H(3), H(4), H(5), H(6), H(7), H(8), CRM_USB_DIV_9 } crm_usb_div_type;
 typedef enum {
-  CRM_USB_CLOCK_SOURCE_NONE, CRM_USB_CLOCK_SOURCE_PLL, CRM_USB_CLOCK_SOURCE_HICK, CRM_USB_CLOCK_SOURCE_PLLU
+  CRM_USB_CLOCK_SOURCE_NONE, CRM_USB_CLOCK_SOURCE_PLL, CRM_USB_CLOCK_SOURCE_HICK
 } crm_usb_clock_source_type;
 
 /* clock outputs */
@@ -80,7 +68,6 @@ typedef enum {
   CRM_CLKOUT2_LICK, CRM_CLKOUT2_LEXT
 } crm_clkout2_select_type;
 typedef enum { CRM_CLKOUT_INDEX_1 = 1, CRM_CLKOUT_INDEX_2 } crm_clkout_index_type;
-typedef enum { NINE(CRM_CLKOUT_DIV_) } crm_clkout_div_type;
 typedef enum {
   CRM_CLKOUT_DIV1_1 = 1, CRM_CLKOUT_DIV1_2, CRM_CLKOUT_DIV1_3, CRM_CLKOUT_DIV1_4, CRM_CLKOUT_DIV1_5
 } crm_clkout_div1_type;
@@ -95,34 +82,16 @@ typedef enum {
   E(23), E(24), E(25), E(26), E(27), E(28), E(29), E(30), E(31)
 } crm_ertc_clock_type;
 
-/* peripheral clocks */
+/* adc and peripheral clocks */
 #define A(n) CRM_ADC_DIV_##n = n
 typedef enum { A(2), A(3), A(4), A(5), A(6), A(8), A(12), A(16) } crm_adc_div_type;
-typedef enum { CRM_ADC_CLOCK_SOURCE_HCLK, CRM_ADC_CLOCK_SOURCE_PLLCLK } crm_adc_clock_source_type;
-typedef enum { CRM_USART1 = 1, CRM_USART2, CRM_USART3 } crm_usart_type;
 typedef enum {
-  CRM_USART_CLOCK_SOURCE_PCLK, CRM_USART_CLOCK_SOURCE_SCLK, CRM_USART_CLOCK_SOURCE_HICK48,
-  CRM_USART_CLOCK_SOURCE_LEXT, CRM_USART_CLOCK_SOURCE_HICK
-} crm_usart_clock_source_type;
-typedef enum { CRM_I2C1 = 1 } crm_i2c_type;
-typedef enum {
-  CRM_I2C_CLOCK_SOURCE_PCLK, CRM_I2C_CLOCK_SOURCE_SCLK, CRM_I2C_CLOCK_SOURCE_HICK48, CRM_I2C_CLOCK_SOURCE_HICK
-} crm_i2c_clock_source_type;
-typedef enum { CRM_CAN1 = 1, CRM_CAN2, CRM_CAN3 } crm_can_type;
-typedef enum {
-  CRM_CAN_CLOCK_SOURCE_HEXT, CRM_CAN_CLOCK_SOURCE_PLL, CRM_CAN_CLOCK_SOURCE_PCLK, CRM_CAN_CLOCK_SOURCE_PLLU
-} crm_can_clock_source_type;
-typedef enum {
-  CRM_I2SF5_CLOCK_SOURCE_PLLP, CRM_I2SF5_CLOCK_SOURCE_SCLK, CRM_I2SF5_CLOCK_SOURCE_HICK,
-  CRM_I2SF5_CLOCK_SOURCE_EXTERNAL
-} crm_i2sf5_clock_source_type;
-#define C(p) CRM_GPIO##p##_PERIPH_CLOCK
-typedef enum { C(A), C(B), C(C), C(D), C(E), C(F), C(G), C(H), CRM_PWC_PERIPH_CLOCK, CRM_BPR_PERIPH_CLOCK } crm_periph_clock_type;
+  CRM_GPIOA_PERIPH_CLOCK, CRM_GPIOC_PERIPH_CLOCK, CRM_GPIOE_PERIPH_CLOCK, CRM_PWC_PERIPH_CLOCK, CRM_BPR_PERIPH_CLOCK
+} crm_periph_clock_type;
 
 /* pins */
 typedef struct { int port; } gpio_type;
-extern gpio_type *const GPIOA, *const GPIOB, *const GPIOC, *const GPIOD, *const GPIOE, *const GPIOF, *const GPIOG,
-    *const GPIOH;
+extern gpio_type *const GPIOA, *const GPIOC, *const GPIOE;
 typedef enum { SIXTEEN(GPIO_PINS_), GPIO_PINS_ALL } gpio_pins_type;
 typedef enum { SIXTEEN(GPIO_PINS_SOURCE) } gpio_pins_source_type;
 typedef enum { SIXTEEN(GPIO_MUX_) } gpio_mux_sel_type;
@@ -136,11 +105,10 @@ typedef struct {
 } gpio_init_type;
 
 #define SETS(name, type, variable) void name(type);
-#define SETS2(name, first, second) void name(first, second);
 #include "calls.h"
 
-void crm_reset(void), system_core_clock_update(void), reduce_power_consumption(void), zn64_board_init(void);
-void crm_hext_bypass(confirm_state), crm_lext_bypass(confirm_state), crm_pllu_output_set(confirm_state);
+void crm_reset(void), system_core_clock_update(void);
+void crm_hext_bypass(confirm_state), crm_lext_bypass(confirm_state);
 void crm_clock_source_enable(crm_clock_source_type, confirm_state);
 error_status crm_hext_stable_wait(void);
 flag_status crm_flag_get(crm_flag_type);
@@ -152,13 +120,9 @@ void crm_rtc_clock_select(crm_rtc_clock_type), crm_ertc_clock_select(crm_ertc_cl
 void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type), pwc_battery_powered_domain_access(confirm_state);
 void gpio_default_para_init(gpio_init_type *), gpio_init(gpio_type *, gpio_init_type *);
 void gpio_pin_mux_config(gpio_type *, gpio_pins_source_type, gpio_mux_sel_type);
-/* a chip's header gives these the names crm_pll_config, crm_pll_config2 and crm_clkout_div_set */
+/* a chip's header gives these the names crm_pll_config and crm_clkout_div_set */
 void firmware_pll_range(crm_pll_clock_source_type, crm_pll_mult_type, crm_pll_output_range_type);
-void firmware_pll_mult(crm_pll_clock_source_type, crm_pll_mult_type);
 void firmware_pll_fr(crm_pll_clock_source_type, uint16_t ns, uint16_t ms, crm_pll_fr_type);
-void firmware_pll_fp(crm_pll_clock_source_type, uint16_t ns, uint16_t ms, crm_pll_fp_type);
-void firmware_clkout_div(crm_clkout_div_type);
-void firmware_clkout_two_divs(crm_clkout_div1_type, crm_clkout_div2_type);
 void firmware_clkout_indexed(crm_clkout_index_type, crm_clkout_div1_type, crm_clkout_div2_type);
 
 #endif
