@@ -6,10 +6,10 @@
 
 namespace {
 
-Places places()
+/// The oscillators and the RTC.
+Places oscillatorPlaces()
 {
     return {
-        // low speed oscillators and RTC
         labelAt("m_lick_Label", 80, 48, "lick(kHz)"),
         editAt("m_lick_lineEdit", 65, 65, "40"),
         outputAt("m_towdt_lineEdit", 415, 17, "to wdt(kHz)"),
@@ -26,7 +26,6 @@ Places places()
         radioAt("m_rtcsel_lick_RadioButton", 257, 75),
         radioAt("m_rtcsel_lext_RadioButton", 257, 148),
         radioAt("m_rtcsel_hext_RadioButton", 257, 214),
-        // high speed oscillators
         labelAt("m_hext_Label1", 65, 279, "hext(4-25MHz)"),
         editAt("m_hext_lineEdit", 65, 297, "8"),
         labelAt("m_hextbypass_Label", 83, 329, "bypass"),
@@ -35,7 +34,13 @@ Places places()
         labelAt("m_hext_Out", 6, 310, "OUT", 8),
         labelAt("m_hick_Label", 80, 425, "hick(MHz)"),
         editAt("m_hick_lineEdit", 65, 443, "8"),
-        // PLL
+    };
+}
+
+/// From the PLL to the system clock.
+Places pllPlaces()
+{
+    return {
         labelAt("m_pllhextdiv_Label", 323, 263, "pllhextdiv"),
         radioAt("m_pllhext_nodiv_RadioButton", 345, 305),
         radioAt("m_pllhext_div_RadioButton", 345, 346),
@@ -45,7 +50,6 @@ Places places()
         labelAt("m_pllmult_Label", 560, 327, "pll_mult"),
         comboAt("m_pllmult_ComboBox", 555, 347, 60),
         labelAt("m_pllclk_Label", 650, 335, "", 9, 75),
-        // system clock
         labelAt("m_sclkselect_Label", 712, 237, "sclk select"),
         radioAt("m_sclkselect_hext_RadioButton", 740, 297),
         radioAt("m_sclkselect_pll_RadioButton", 740, 355),
@@ -53,7 +57,13 @@ Places places()
         labelAt("m_sclk_Label", 793, 327, "sclk(MHz)", 9),
         editAt("m_sclk_lineEdit", 783, 347),
         labelAt("m_sclkRange_Label", 798, 376, "(4 - %1)", 9, 70),
-        // buses
+    };
+}
+
+/// The buses, USB and the ADC.
+Places busPlaces()
+{
+    return {
         labelAt("m_ahbdiv_Label", 936, 327, "ahbdiv"),
         comboAt("m_ahbdiv_ComboBox", 926, 347, 60, 1),
         labelAt("m_apb1div_Label", 1041, 352, "apb1div", 9),
@@ -63,19 +73,23 @@ Places places()
         editAt("m_tosystick_div", 1092, 142),
         editAt("m_toapb1tmr_mul", 1092, 412),
         editAt("m_toapb2tmr_mul", 1092, 650),
-        // USB
         labelAt("m_usbdiv_Label", 717, 482, "usbdiv"),
         comboAt("m_usbdiv_ComboBox", 707, 502, 60),
         labelAt("m_tousb_Label", 820, 482, "to usb"),
         comboAt("m_tousbswitch_ComboBox", 810, 502, 70),
         labelAt("m_usbclock_Label", 900, 525, "", 9, 70),
-        // ADC
         labelAt("m_toadcdiv_Label", 1119, 498, "adcdiv", 9),
         comboAt("m_toadcdiv_ComboBox", 1115, 514, 50, 3),
         comboAt("m_toadcswitch_ComboBox", 1075, 550, 68, 2),
         outputAt("m_toadc_lineEdit", 1180, 513),
         labelAt("m_toadc_Label", 1265, 516, "adc (MHz)", 9),
-        // clock output
+    };
+}
+
+/// The clock output.
+Places clockOutputPlaces()
+{
+    return {
         labelAt("m_clockoutpin_Label", 140, 634, "select pin"),
         comboAt("m_clockoutpin_ComboBox", 133, 654, 70, 1),
         labelAt("m_clockout_Value_QLabel", 48, 672, "", 9, 70),
@@ -103,7 +117,13 @@ Places places()
         labelAt("m_clockout_plldiv4_QLabel1", 400, 750, "pll/4"),
         labelAt("m_clockout_plldiv4_QLabel", 440, 750, ""),
         labelAt("m_clockout_QLabel", 326, 786, "clkout"),
-        // output column
+    };
+}
+
+/// The output column with its lists.
+Places outputPlaces()
+{
+    return {
         outputAt("m_toi2s_lineEdit", 1180, 93, "i2s (MHz)"),
         outputAt("m_tosystick_lineEdit", 1180, 144, "systick(MHz)"),
         outputAt("m_tosido_lineEdit", 1180, 188, "sdio (MHz)"),
@@ -118,6 +138,11 @@ Places places()
         groupAt("m_toapb2periphera_list_group", 1265, 397),
         groupAt("m_toapb2tmr_list_group", 1265, 551),
     };
+}
+
+Places places()
+{
+    return oscillatorPlaces() + pllPlaces() + busPlaces() + clockOutputPlaces() + outputPlaces();
 }
 
 std::vector<const char*> controls()

@@ -72,40 +72,10 @@ Places movedPlaces()
         });
 }
 
-Places places()
+/// Both clock outputs.
+Places clockOutputPlaces()
 {
-    return movedPlaces().with({
-        labelAt("m_tortc_Label", 595, 105, "to ertc(kHz)", 9),
-        labelAt("m_rtcsel_Label", 332, 186, "ertcsel"),
-        labelAt("m_rtcdiv_Label", 250, 135, "ertcdiv"),
-        comboAt("m_rtcdiv_ComboBox", 240, 150, 60, 1),
-        editAt("m_hick_lineEdit", 65, 399, "48"),
-        labelAt("m_hicktosclk_Label", 267, 440, "hick to sclk"),
-        radioAt("m_hicktosclk_div6_RadioButton", 288, 357),
-        radioAt("m_hicktosclk_RadioButton", 288, 407),
-        labelAt("m_pllms_Label1", 410, 262, "pll_ms"),
-        editAt("m_pllms_lineEdit", 395, 282, "1"),
-        labelAt("m_pllms_Label2", 405, 313, "(1-15)"),
-        labelAt("m_pllns_Label1", 497, 262, "pll_ns"),
-        editAt("m_pllns_lineEdit", 482, 282, "1"),
-        labelAt("m_pllns_Label2", 487, 312, "(31-500)"),
-        labelAt("m_pllfr_Label", 585, 262, "pll_fr"),
-        comboAt("m_pllfr_ComboBox", 570, 282, 60),
-        labelAt("m_pllCFG_Label", 420, 230, "CRM_PLLCFG : ", 10, 75),
-        editAt("m_pllCFG_Value_lineEdit", 510, 227, "0x08000000"),
-        labelAt("m_pllclk_Label", 650, 275, "", 10, 75),
-        labelAt("m_sclk_Label", 775, 262, "sclk(4 - %1 MHz)", 9),
-        labelAt("m_sclkWarning1_QLabel", 775, 315, "Useage limited:", 10, 75),
-        labelAt("m_sclkWarning2_QLabel", 775, 332, "Temperature range - 40~85 degree. "),
-        labelAt("m_sclkWarning3_QLabel", 775, 349, "VDD must over 3.0V. "),
-        labelAt("m_apb1div_Label", 1040, 428, "apb1div"),
-        labelAt("m_apb1divMax_Label", 1090, 438, "144MHz max"),
-        labelAt("m_apb2div_Label", 1040, 593, "apb2div"),
-        labelAt("m_apb2divMax_Label", 1090, 603, "144MHz max"),
-        labelAt("m_hicktousb_Label", 768, 490, "hick to usb"),
-        radioAt("m_tousb_pll_RadioButton", 795, 415),
-        radioAt("m_tousb_hick_RadioButton", 795, 455),
-        labelAt("m_usbclock_Label", 920, 460, "", 10, 70),
+    return {
         labelAt("m_clockout1pin_Label", 136, 496, "select pin"),
         comboAt("m_clockout1pin_ComboBox", 125, 515, 80),
         labelAt("m_clockout1div2_Label", 257, 495, "clockout1div2"),
@@ -158,11 +128,49 @@ Places places()
         labelAt("m_clockout2_lext_QLabel", 612, 768, ""),
         labelAt("m_clockout2_QLabel", 500, 807, "clkout2"),
         labelAt("m_clockout2_Value_QLabel", 50, 723, "", 10, 70),
-        outputAt("m_togpio_lineEdit", 1177, 263, "gpio (MHz)"),
-        outputAt("m_todvp_lineEdit", 1177, 303, "dvp (MHz)"),
-        outputAt("m_toqspi_lineEdit", 1177, 345, "qspi (MHz)"),
-        outputAt("m_toadc_lineEdit", 1177, 389, "adc (MHz)"),
-    });
+    };
+}
+
+Places places()
+{
+    return clockOutputPlaces() +
+           movedPlaces().with({
+               labelAt("m_tortc_Label", 595, 105, "to ertc(kHz)", 9),
+               labelAt("m_rtcsel_Label", 332, 186, "ertcsel"),
+               labelAt("m_rtcdiv_Label", 250, 135, "ertcdiv"),
+               comboAt("m_rtcdiv_ComboBox", 240, 150, 60, 1),
+               editAt("m_hick_lineEdit", 65, 399, "48"),
+               labelAt("m_hicktosclk_Label", 267, 440, "hick to sclk"),
+               radioAt("m_hicktosclk_div6_RadioButton", 288, 357),
+               radioAt("m_hicktosclk_RadioButton", 288, 407),
+               labelAt("m_pllms_Label1", 410, 262, "pll_ms"),
+               editAt("m_pllms_lineEdit", 395, 282, "1"),
+               labelAt("m_pllms_Label2", 405, 313, "(1-15)"),
+               labelAt("m_pllns_Label1", 497, 262, "pll_ns"),
+               editAt("m_pllns_lineEdit", 482, 282, "1"),
+               labelAt("m_pllns_Label2", 487, 312, "(31-500)"),
+               labelAt("m_pllfr_Label", 585, 262, "pll_fr"),
+               comboAt("m_pllfr_ComboBox", 570, 282, 60),
+               labelAt("m_pllCFG_Label", 420, 230, "CRM_PLLCFG : ", 10, 75),
+               editAt("m_pllCFG_Value_lineEdit", 510, 227, "0x08000000"),
+               labelAt("m_pllclk_Label", 650, 275, "", 10, 75),
+               labelAt("m_sclk_Label", 775, 262, "sclk(4 - %1 MHz)", 9),
+               labelAt("m_sclkWarning1_QLabel", 775, 315, "Useage limited:", 10, 75),
+               labelAt("m_sclkWarning2_QLabel", 775, 332, "Temperature range - 40~85 degree. "),
+               labelAt("m_sclkWarning3_QLabel", 775, 349, "VDD must over 3.0V. "),
+               labelAt("m_apb1div_Label", 1040, 428, "apb1div"),
+               labelAt("m_apb1divMax_Label", 1090, 438, "144MHz max"),
+               labelAt("m_apb2div_Label", 1040, 593, "apb2div"),
+               labelAt("m_apb2divMax_Label", 1090, 603, "144MHz max"),
+               labelAt("m_hicktousb_Label", 768, 490, "hick to usb"),
+               radioAt("m_tousb_pll_RadioButton", 795, 415),
+               radioAt("m_tousb_hick_RadioButton", 795, 455),
+               labelAt("m_usbclock_Label", 920, 460, "", 10, 70),
+               outputAt("m_togpio_lineEdit", 1177, 263, "gpio (MHz)"),
+               outputAt("m_todvp_lineEdit", 1177, 303, "dvp (MHz)"),
+               outputAt("m_toqspi_lineEdit", 1177, 345, "qspi (MHz)"),
+               outputAt("m_toadc_lineEdit", 1177, 389, "adc (MHz)"),
+           });
 }
 
 std::vector<const char*> controls()

@@ -8,6 +8,14 @@ Places::Places(std::initializer_list<ControlPlace> places)
     }
 }
 
+Places Places::operator+(const Places& other) const
+{
+    Places all(*this);
+    for (const ControlPlace& place : other.m_places)
+        all.m_places.insert(QLatin1String(place.name), place);
+    return all;
+}
+
 Places Places::with(std::initializer_list<ControlPlace> places) const
 {
     Places all(*this);

@@ -34,6 +34,8 @@ class Places
 public:
     Places(std::initializer_list<ControlPlace> places);
 
+    /// The places of two parts of a tree.
+    Places operator+(const Places& other) const;
     /// A sibling's places with some controls at other positions. A name that the sibling lacks is a fault.
     Places moved(std::initializer_list<ControlMove> moves) const;
     /// A sibling's places with some controls replaced or added.

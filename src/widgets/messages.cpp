@@ -13,6 +13,8 @@ int showMessage(QMessageBox::Icon icon, const QString& title, const QString& tex
         box->setWindowFlags(flags);
     box->setIcon(icon);
     box->setWindowTitle(title);
+    // Texts may come from files and from the net: markup in them is shown, not obeyed.
+    box->setTextFormat(Qt::PlainText);
     box->setText(text);
     for (const MessageButton& each : buttons)
         box->addButton(each.button)->setText(each.text);

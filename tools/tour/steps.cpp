@@ -114,7 +114,9 @@ void withoutDesign(Tour& tour)
     tour.expectText("m_ClockConfig_PushButton", QStringLiteral("Clock Configuration"));
 }
 
-void firstSeries(Tour& tour)
+namespace {
+
+void openFirstSeries(Tour& tour)
 {
     tour.step("Open: a design of ZN64G110");
     QFile file(tour.path(QStringLiteral("start.ZNCK")));
@@ -127,7 +129,10 @@ void firstSeries(Tour& tour)
     tour.expectText("m_ClockConfig_PushButton", QStringLiteral("Clock Configuration---ZN64G110"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("192.000"));
     tour.shoot("g110");
+}
 
+void editFirstSeries(Tour& tour)
+{
     tour.step("edit: system clock, buses, USB, ADC, RTC, clock output");
     tour.type("m_sclk_lineEdit", QStringLiteral("144"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("144.000"));
@@ -147,14 +152,20 @@ void firstSeries(Tour& tour)
     tour.clickOnCanvas("m_clockout_plldiv4_RadioButton");
     tour.expectText("m_clockout_Value_QLabel", QStringLiteral("(36.000 MHz)"));
     tour.shoot("g110-edited");
+}
 
+void enterBadInput(Tour& tour)
+{
     tour.step("bad input: told, and the design keeps its last good value");
     tour.withDialogs(
         {tour.answer(QStringLiteral("critical | Error | hext input error! | Ok"), "Ok", "hext-error")},
         [&] { tour.type("m_hext_lineEdit", QStringLiteral("3")); });
     tour.expectText("m_sclk_lineEdit", QStringLiteral("144.000"));
     tour.type("m_hext_lineEdit", QStringLiteral("8"));
+}
 
+void openLists(Tour& tour)
+{
     tour.step("lists: one opens, a click on the picture closes it");
     tour.clickOnCanvas("m_toapb1peripheral_List_Button");
     tour.expect(tour.control<QWidget>("m_toapb1periphera_list_group")->isVisible(),
@@ -163,7 +174,10 @@ void firstSeries(Tour& tour)
     tour.clickOnPicture(QPoint(700, 40));
     tour.expect(!tour.control<QWidget>("m_toapb1periphera_list_group")->isVisible(),
                 QStringLiteral("the list closes"));
+}
 
+void saveAndGenerate(Tour& tour)
+{
     tour.step("save, preview, generate twice");
     tour.withDialogs(
         {tour.chooseFile(QStringLiteral("Save"), tour.path(QStringLiteral("g110.ZNCK")), "save-dialog"),
@@ -186,7 +200,20 @@ void firstSeries(Tour& tour)
                      [&] { tour.clickMenu("m_GeneralCodeMenu", "m_GeneralCode_Action"); });
 }
 
-void flexibleSeries(Tour& tour)
+} // namespace
+
+void firstSeries(Tour& tour)
+{
+    openFirstSeries(tour);
+    editFirstSeries(tour);
+    enterBadInput(tour);
+    openLists(tour);
+    saveAndGenerate(tour);
+}
+
+namespace {
+
+void newFlexibleSeries(Tour& tour)
 {
     tour.step("New: ZN64G150 in place of the design");
     tour.withDialogs({tour.answer(replaceQuestion, "Yes"),
@@ -200,7 +227,10 @@ void flexibleSeries(Tour& tour)
     tour.expectText("m_ClockConfig_PushButton", QStringLiteral("Clock Configuration---ZN64G150"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("288.000"));
     tour.shoot("g150");
+}
 
+void editFlexibleSeries(Tour& tour)
+{
     tour.step("edit: flexible PLL, USB, two clock outputs");
     tour.type("m_pllns_lineEdit", QStringLiteral("500"), false);
     tour.withDialogs(
@@ -225,7 +255,10 @@ void flexibleSeries(Tour& tour)
     tour.choose("m_clockout2pin_ComboBox", QStringLiteral("PC9"));
     tour.clickOnCanvas("m_clockout2_pll_RadioButton");
     tour.shoot("g150-edited");
+}
 
+void reopenAndGenerate(Tour& tour)
+{
     tour.step("save, open again, preview, generate");
     const QString design = tour.path(QStringLiteral("g150.ZNCK"));
     tour.withDialogs({tour.chooseFile(QStringLiteral("Save"), design), tour.answer(saved, "Ok")},
@@ -245,11 +278,24 @@ void flexibleSeries(Tour& tour)
          QStringLiteral("crm_clkout_div_set(CRM_CLKOUT_INDEX_1, CRM_CLKOUT_DIV1_2, CRM_CLKOUT_DIV2_4);"),
          QStringLiteral("crm_clock_out2_set(CRM_CLKOUT2_PLL);"),
          QStringLiteral("crm_auto_step_mode_enable(TRUE);")});
+}
 
+void goAboveTheWarning(Tour& tour)
+{
     tour.step("above 240 MHz the page warns");
     tour.type("m_sclk_lineEdit", QStringLiteral("288"));
     tour.expect(tour.control<QWidget>("m_sclkWarning1_QLabel")->isVisible(), QStringLiteral("288 MHz warns"));
     tour.shoot("g150-warning");
+}
+
+} // namespace
+
+void flexibleSeries(Tour& tour)
+{
+    newFlexibleSeries(tour);
+    editFlexibleSeries(tour);
+    reopenAndGenerate(tour);
+    goAboveTheWarning(tour);
 }
 
 void inChinese(Tour& tour)
