@@ -11,7 +11,7 @@
 #include <QTest>
 #include <QTranslator>
 
-/// The main form as the program starts it, and its commands.
+/// The main form as the program starts it, its commands, and what it shows.
 struct FormFixture
 {
     explicit FormFixture(LANGUAGE language = UI_EN)
@@ -27,22 +27,57 @@ struct FormFixture
     }
     ~FormFixture() { QCoreApplication::removeTranslator(&translator); }
 
-    void trigger(const char* action) { form.findChild<QAction*>(QLatin1String(action))->trigger(); }
-    QPushButton* clockButton()
+    template <class Object>
+    Object* find(const char* name) const
     {
-        return form.findChild<QPushButton*>(QStringLiteral("m_ClockConfig_PushButton"));
+        return form.findChild<Object*>(QLatin1String(name));
     }
-    QPushButton* codeButton()
-    {
-        return form.findChild<QPushButton*>(QStringLiteral("m_CodeView_PushButton"));
-    }
-    QWidget* clockPage() { return form.findChild<QWidget*>(QStringLiteral("m_clockConfigForm")); }
-    QWidget* codePage() { return form.findChild<QWidget*>(QStringLiteral("m_codeViewForm")); }
-    QWidget* design() { return form.findChild<QWidget*>(QStringLiteral("m_pllConfigWidget")); }
+    QPushButton* clockButton() const { return find<QPushButton>("m_ClockConfig_PushButton"); }
+    QPushButton* codeButton() const { return find<QPushButton>("m_CodeView_PushButton"); }
+    QWidget* design() const { return find<QWidget>("m_pllConfigWidget"); }
 
-    /// Whether exactly one page is in view and the buttons tell which.
-    bool showsClockPage() { return shows(clockPage(), clockButton(), codePage(), codeButton()); }
-    bool showsCodePage() { return shows(codePage(), codeButton(), clockPage(), clockButton()); }
+    /// Triggers the action, clicks the button, or closes the form.
+    void run(const QString& command)
+    {
+        if (auto* action = form.findChild<QAction*>(command))
+            action->trigger();
+        else if (auto* button = form.findChild<QPushButton*>(command))
+            button->click();
+        else
+            form.close();
+    }
+
+    /// "clock" or "code", the page in view, and the series of the active design; "closed" for the form.
+    QString state() const
+    {
+        if (!form.isVisible())
+            return QStringLiteral("closed");
+        const bool code = find<QWidget>("m_codeViewForm")->isVisible();
+        // Exactly one page is in view, and the colours of the buttons tell which.
+        if (code == find<QWidget>("m_clockConfigForm")->isVisible() || isLit(codeButton()) != code ||
+            isLit(clockButton()) == code)
+            return QStringLiteral("page and buttons disagree");
+        const QString page = code ? QStringLiteral("code") : QStringLiteral("clock");
+        if (!design())
+            return page;
+        return page + QLatin1Char(' ') + QLatin1String(design()->metaObject()->className()).chopped(3);
+    }
+
+    /// Leads the form to a state that state() tells.
+    void enter(const QString& wanted)
+    {
+        const QString series = wanted.section(QLatin1Char(' '), 1);
+        if (!series.isEmpty()) {
+            DialogAnswers answers;
+            if (design())
+                answers.add(DialogAnswers::press("Yes"));
+            answers.add(DialogAnswers::choose(designFile(series)));
+            run(QStringLiteral("m_Open_Action"));
+        }
+        if (wanted.startsWith(QLatin1String("code")))
+            run(QStringLiteral("m_CodeView_PushButton"));
+        QCOMPARE(state(), wanted);
+    }
 
     /// Picks the series in the series dialog and confirms it.
     static DialogAnswers::Answer pick(const QString& series)
@@ -59,12 +94,12 @@ struct FormFixture
     }
 
     /// A design that can be generated without questions. What the file lacks takes its default.
-    QString designFile(const char* series)
+    QString designFile(const QString& series) const
     {
-        const QString path = folder.filePath(QLatin1String(series) + QStringLiteral(".ZNCK"));
+        const QString path = folder.filePath(series + QStringLiteral(".ZNCK"));
         QFile file(path);
         if (file.open(QIODevice::WriteOnly))
-            file.write(QByteArray("<Configuration><MCU>") + series +
+            file.write("<Configuration><MCU>" + series.toUtf8() +
                        "</MCU><hext>8</hext><tousbswitch>1</tousbswitch></Configuration>");
         return path;
     }
@@ -76,10 +111,8 @@ struct FormFixture
     FormConfiguration form;
 
 private:
-    static bool shows(QWidget* page, QPushButton* button, QWidget* otherPage, QPushButton* otherButton)
+    static bool isLit(const QPushButton* button)
     {
-        return page->isVisible() && !otherPage->isVisible() &&
-               button->styleSheet().contains(QLatin1String("rgb(57, 169, 220)")) &&
-               otherButton->styleSheet().contains(QLatin1String("rgb(0, 32, 82)"));
+        return button->styleSheet().contains(QLatin1String("rgb(57, 169, 220)"));
     }
 };

@@ -1,11 +1,9 @@
 #include "shell/MCUSelect_Form.h"
-#include "widgets/dialoganswers.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 
 class TestSeriesDialog : public QObject
@@ -17,8 +15,6 @@ private slots:
     void typedNameMovesTheLists_data();
     void typedNameMovesTheLists();
     void pickingFromTheCompleterIgnoresTheCase();
-    void endsWithTheSeriesShownOrWithNothing_data();
-    void endsWithTheSeriesShownOrWithNothing();
 
 private:
     QComboBox* box(const char* name) { return m_dialog->findChild<QComboBox*>(QLatin1String(name)); }
@@ -80,26 +76,6 @@ void TestSeriesDialog::pickingFromTheCompleterIgnoresTheCase()
 
     QTRY_COMPARE(series(), QStringLiteral("ZN64H133"));
     QCOMPARE(line(), QStringLiteral("Automotive"));
-}
-
-void TestSeriesDialog::endsWithTheSeriesShownOrWithNothing_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("series");
-    QTest::newRow("ok, untouched") << QStringLiteral("OK") << 1 << QStringLiteral("ZN64G171");
-    QTest::newRow("cancel") << QStringLiteral("Cancel") << 0 << QString();
-    QTest::newRow("close button") << QString() << 0 << QString();
-}
-
-void TestSeriesDialog::endsWithTheSeriesShownOrWithNothing()
-{
-    QFETCH(QString, button);
-    m_dialog->hide();
-    DialogAnswers answers{button.isEmpty() ? DialogAnswers::close()
-                                           : DialogAnswers::press(button.toLatin1().constData())};
-    QTEST(m_dialog->exec(), "result");
-    QTEST(m_dialog->m_MCUName, "series");
 }
 
 QTEST_MAIN(TestSeriesDialog)

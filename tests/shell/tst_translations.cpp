@@ -13,28 +13,6 @@ namespace {
 /// Source texts and their translations, by context.
 using Table = QMap<QString, QMap<QString, QString>>;
 
-/// Whole numbers of entries that the tables of the shell and the base classes hold.
-struct Count
-{
-    const char* context;
-    int chinese;
-    int english;
-};
-constexpr Count counts[] = {
-    {"FormConfiguration", 39, 39},
-    {"MCUSelect_Form",    13, 3 },
-    {"HttpsDownload",     13, 13},
-    {"ZN64PLLConfig",     10, 10},
-    {"QObject",           5,  5 },
-    {"MyQsciScintilla",   4,  0 },
-    {"VersionAbout",      3,  3 },
-    {"ProgressDialog",    3,  3 },
-    {"ZN64MCUPLL",        1,  1 },
-    {"ZN64G110PLL",       26, 26},
-    {"ZN64G150PLL",       31, 29},
-    {"ZN64G152PLL",       32, 30},
-};
-
 Table readTable(const QString& path)
 {
     Table table;
@@ -63,25 +41,23 @@ bool isSeriesPage(const QString& context)
 /// The string literals in the sources of the pages, with adjacent ones joined.
 QSet<QString> literalsOfThePages()
 {
-    static const QRegularExpression joined(
-        QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\"(?:\\s*\"((?:[^\"\\\\\\n]|\\\\.)*)\")*"));
+    static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\""));
     static const QRegularExpression seam(QStringLiteral("(?<!\\\\)\"\\s*\""));
-    QSet<QString> literals;
+    QString code;
     QDirIterator files(QStringLiteral(SOURCE_FOLDER "/pages"),
                        {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        auto match = joined.globalMatch(QString::fromUtf8(file.readAll()));
-        while (match.hasNext()) {
-            QString text = match.next().captured();
-            text = text.mid(1, text.size() - 2).remove(seam);
-            literals += text.replace(QLatin1String("\\n"), QLatin1String("\n"))
-                            .replace(QLatin1String("\\\""), QLatin1String("\""));
-        }
+        if (file.open(QIODevice::ReadOnly))
+            code += QString::fromUtf8(file.readAll());
     }
+    QSet<QString> literals;
+    for (auto match = literal.globalMatch(code.remove(seam)); match.hasNext();)
+        literals += match.next()
+                        .captured(1)
+                        .replace(QLatin1String("\\n"), QLatin1String("\n"))
+                        .replace(QLatin1String("\\\""), QLatin1String("\""));
     return literals;
 }
 
@@ -96,8 +72,6 @@ private slots:
     void initTestCase();
     void contextsHoldWhatTheirClassesAskFor();
     void pageTextsStandInTheTableAndInTheCode();
-    void everyContextHasItsNumberOfEntries();
-    void compiledTablesGiveTheTranslations_data();
     void compiledTablesGiveTheTranslations();
 
 private:
@@ -147,37 +121,20 @@ void TestTranslations::pageTextsStandInTheTableAndInTheCode()
             QVERIFY2(texts.contains(literal), qPrintable(QStringLiteral("not in the table: ") + literal));
 }
 
-void TestTranslations::everyContextHasItsNumberOfEntries()
-{
-    for (const Count& each : counts) {
-        const QString context = QLatin1String(each.context);
-        QVERIFY2(m_chinese[context].size() == each.chinese, each.context);
-        QVERIFY2(m_english.value(context).size() == each.english, each.context);
-    }
-    QCOMPARE(m_chinese.size(), int(std::size(counts)));
-    QCOMPARE(m_english.size(), int(std::size(counts)) - 1);
-}
-
-void TestTranslations::compiledTablesGiveTheTranslations_data()
-{
-    QTest::addColumn<QString>("resource");
-    QTest::newRow("en") << QStringLiteral(":/image/tr_en.qm");
-    QTest::newRow("zh") << QStringLiteral(":/image/tr_zh.qm");
-}
-
 void TestTranslations::compiledTablesGiveTheTranslations()
 {
-    QFETCH(QString, resource);
-    const Table& table = resource.contains(QLatin1String("zh")) ? m_chinese : m_english;
-    QTranslator translator;
-    QVERIFY(translator.load(resource));
-    for (auto context = table.begin(); context != table.end(); ++context) {
-        for (auto text = context->begin(); text != context->end(); ++text) {
-            const QString given =
-                translator.translate(context.key().toUtf8().constData(), text.key().toUtf8().constData());
-            QCOMPARE(given, text.value());
-            // A null text lets the source show.
-            QCOMPARE(given.isNull(), text->isEmpty());
+    for (const char* language : {"en", "zh"}) {
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/image/tr_%1.qm").arg(QLatin1String(language))));
+        const Table& table = *language == 'z' ? m_chinese : m_english;
+        for (auto context = table.begin(); context != table.end(); ++context) {
+            for (auto text = context->begin(); text != context->end(); ++text) {
+                const QString given =
+                    translator.translate(context.key().toUtf8().constData(), text.key().toUtf8().constData());
+                QCOMPARE(given, text.value());
+                // A null text lets the source show.
+                QCOMPARE(given.isNull(), text->isEmpty());
+            }
         }
     }
 }
