@@ -24,7 +24,6 @@ private slots:
     void editTakesCaretAndText();
     void buttonsTakeClicks_data() { zooms(false); }
     void buttonsTakeClicks();
-    void wheelOverAComboDoesNothing_data();
     void wheelOverAComboDoesNothing();
     void popupTellsItsFocusToTheView();
     void escapeLeavesTheEdit();
@@ -127,15 +126,14 @@ void TestControls::comboOpensAtItsPlace()
     QVERIFY(popup);
     const QRectF combo = ZN64MCUPLL::proxyOf(m_combo)->sceneBoundingRect();
     const QRectF opened = popup->sceneBoundingRect();
-    const QScopedArrayPointer<char> where(QTest::toString(opened));
-    QVERIFY2(qAbs(opened.left() - combo.left()) < 10, where.data());
-    QVERIFY2(opened.adjusted(0, -5, 0, 5).intersects(combo), where.data());
-    QVERIFY2(opened.width() >= combo.width() - 10 && opened.height() >= 2 * combo.height(), where.data());
+    QVERIFY(qAbs(opened.left() - combo.left()) < 10);
+    QVERIFY(opened.adjusted(0, -5, 0, 5).intersects(combo));
+    QVERIFY(opened.width() >= combo.width() - 10 && opened.height() >= 2 * combo.height());
 
     const QRect item = list->visualRect(m_combo->model()->index(2, 0));
     const QPoint inPopup = list->viewport()->mapTo(list->parentWidget(), item.center());
     const QPoint target = m_page->view()->mapFromScene(popup->mapToScene(inPopup));
-    QVERIFY2(viewport()->rect().contains(target), where.data());
+    QVERIFY(viewport()->rect().contains(target));
     click(target);
     QTRY_VERIFY(!list->isVisible());
     QCOMPARE(m_combo->currentText(), QStringLiteral("PA9"));
@@ -168,31 +166,22 @@ void TestControls::buttonsTakeClicks()
     QCOMPARE(clicked.count(), 1);
 }
 
-void TestControls::wheelOverAComboDoesNothing_data()
-{
-    QTest::addColumn<int>("modifiers");
-    QTest::newRow("plain") << int(Qt::NoModifier);
-    QTest::newRow("Ctrl") << int(Qt::ControlModifier);
-}
-
 void TestControls::wheelOverAComboDoesNothing()
 {
-    QFETCH(int, modifiers);
     m_combo->setCurrentIndex(1);
     m_page->resize(500, 300);
     m_page->view()->centerOn(700, 400);
-    const QPoint scrolled(m_page->view()->horizontalScrollBar()->value(),
-                          m_page->view()->verticalScrollBar()->value());
+    const QPoint pos = middleOf(m_combo);
     for (int delta : {120, -120}) {
-        const QPoint pos = middleOf(m_combo);
-        QWheelEvent event(pos, viewport()->mapToGlobal(pos), QPoint(), QPoint(0, delta), Qt::NoButton,
-                          Qt::KeyboardModifiers(modifiers), Qt::NoScrollPhase, false);
-        QApplication::sendEvent(viewport(), &event);
-        QCOMPARE(m_combo->currentIndex(), 1);
-        QVERIFY(m_page->view()->transform().isIdentity());
-        QCOMPARE(QPoint(m_page->view()->horizontalScrollBar()->value(),
-                        m_page->view()->verticalScrollBar()->value()),
-                 scrolled);
+        for (auto modifiers : {Qt::NoModifier, Qt::ControlModifier}) {
+            QWheelEvent event(pos, viewport()->mapToGlobal(pos), QPoint(), QPoint(0, delta), Qt::NoButton,
+                              modifiers, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(viewport(), &event);
+            QCOMPARE(m_combo->currentIndex(), 1);
+            // Neither scrolled nor zoomed.
+            QVERIFY(m_page->view()->transform().isIdentity());
+            QCOMPARE(middleOf(m_combo), pos);
+        }
     }
 }
 
@@ -240,23 +229,11 @@ void TestControls::pressOnAControlStartsNoPan()
 
 void TestControls::comboKeepsItsChoiceWhenGreyed()
 {
-    const auto textColor = [this] {
-        return m_combo->styleSheet().section(QStringLiteral(";color:"), 1, 1).section(QLatin1Char(';'), 0, 0);
-    };
     m_combo->setCurrentIndex(1);
     m_combo->setEnabledStatus(false);
-    QVERIFY(!m_combo->isEnabled());
-    QCOMPARE(m_combo->currentText(), QStringLiteral("PA8"));
-    QCOMPARE(textColor(), QStringLiteral("gray"));
     click(middleOf(m_combo));
     QVERIFY(!m_combo->view()->isVisible());
-    // The colour of a focused combo stays until the focus has come and gone.
-    m_combo->setEnabledStatus(true);
-    QCOMPARE(textColor(), QStringLiteral("rgb(51,51,51)"));
-    m_combo->setFocus();
-    QVERIFY(m_combo->hasFocus());
-    m_edit->setFocus();
-    QCOMPARE(textColor(), QStringLiteral("black"));
+    QCOMPARE(m_combo->currentText(), QStringLiteral("PA8"));
 }
 
 void TestControls::wrapperFollowsItsControl()
