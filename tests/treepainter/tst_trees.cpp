@@ -1,0 +1,206 @@
+#include "treepainter/builder.h"
+#include "treepainter/checks.h"
+#include "treepainter/pagelayout.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+/// A page of 400 by 300 pixels: an oscillator, a multiplexer's two radio buttons, an output, and a label that
+/// shows a value later.
+PageLayout samplePage()
+{
+    PageLayout page{QSize(400, 300), {}};
+    const auto add = [&page](const char* name, ControlKind kind, const QRectF& rect) -> PlacedControl& {
+        page.controls.push_back({QString::fromLatin1(name), kind, rect});
+        return page.controls.back();
+    };
+    add("osc", ControlKind::Field, {20, 40, 60, 30});
+    add("oscName", ControlKind::Label, {20, 20, 40, 15});
+    add("a", ControlKind::Radio, {200, 50, 12, 12});
+    add("b", ControlKind::Radio, {200, 100, 12, 12});
+    add("out", ControlKind::Field, {300, 70, 60, 25}).output = true;
+    add("value", ControlKind::Label, {250, 250, 9, 15}).empty = true;
+    return page;
+}
+
+/// A tree of that page with nothing to mend.
+QString sampleTree()
+{
+    return QStringLiteral("mux sel: right a b\n"
+                          "wire main: osc.right a.in\n"
+                          "wire main: main@x=120 y=b b.in\n"
+                          "wire sel.nose out.left\n");
+}
+
+/// What the painter tells of a tree of the sample page, a line each.
+QString problemsOf(const QString& text)
+{
+    PageLayout page = samplePage();
+    Problems problems;
+    const Drawing drawing = buildDrawing(parseTree(text, QStringLiteral("t.tree"), problems), page, problems);
+    checkDrawing(drawing, page, QStringLiteral("t.tree"), problems);
+    QStringList lines;
+    for (const Problem& problem : problems)
+        lines << problem.text();
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+/// Trees of the sample page: statements from files, the points of wires, and what is told of their faults.
+class TestTrees : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void includes_data();
+    void includes();
+    void routes_data();
+    void routes();
+    void checks_data();
+    void checks();
+};
+
+void TestTrees::includes_data()
+{
+    QTest::addColumn<QString>("main");
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QString>("statements");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("in its place") << "one\ninclude part.tree\nthree"
+                                  << "# part\ntwo"
+                                  << "main.tree:1 one, part.tree:2 two, main.tree:3 three" << QString();
+    QTest::newRow("without end") << "include part.tree"
+                                 << "include part.tree" << QString()
+                                 << "part.tree:1: include takes one file, and no file itself again";
+    QTest::newRow("a fault in the part") << "include part.tree\ntwo"
+                                         << "\ntext \"open"
+                                         << "main.tree:2 two"
+                                         << "part.tree:2: the text has no closing quote";
+}
+
+void TestTrees::includes()
+{
+    QFETCH(QString, main);
+    QFETCH(QString, part);
+    QFETCH(QString, statements);
+    QFETCH(QString, told);
+    const QTemporaryDir folder;
+    const auto write = [&folder](const char* name, const QString& text) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) == text.size();
+    };
+    QVERIFY(write("main.tree", main));
+    QVERIFY(write("part.tree", part));
+    Problems problems;
+    QStringList read;
+    for (const Statement& statement : readTree(folder.filePath(QStringLiteral("main.tree")), problems))
+        read << QStringLiteral("%1:%2 %3")
+                    .arg(statement.source.file)
+                    .arg(statement.source.number)
+                    .arg(statement.keyword);
+    QCOMPARE(read.join(QStringLiteral(", ")), statements);
+    QCOMPARE(problems.empty() ? QString() : problems.front().text(), told);
+    QVERIFY(problems.size() <= 1);
+}
+
+void TestTrees::routes_data()
+{
+    QTest::addColumn<QString>("wire");
+    QTest::addColumn<QString>("points");
+    const auto row = [](const char* wire, const char* points) {
+        QTest::newRow(wire) << QString::fromUtf8(wire) << QString::fromUtf8(points);
+    };
+    row("wire osc.right a.in", "80,56.5 193,56.5");
+    row("wire osc.right+8 x=130 a.in", "80,63.5 130.5,63.5 130.5,56.5 193,56.5");
+    row("wire osc.right x=100 b.in", "80,55.5 100.5,55.5 100.5,106.5 193,106.5");
+    row("wire sel.nose out.left-10", "223,72.5 300,72.5");
+    row("wire sel.nose x=330 out.bottom", "223,81.5 330.5,81.5 330.5,95");
+    row("wire sel.nose x=260 out.bottom", "");
+    row("wire osc.right x=osc.right+20 y=osc-30", "80,55.5 100.5,55.5 100.5,25.5");
+    row("wire out.right value.right+2", "");
+}
+
+void TestTrees::routes()
+{
+    QFETCH(QString, wire);
+    QFETCH(QString, points);
+    PageLayout page = samplePage();
+    Problems problems;
+    const QString tree = QStringLiteral("mux sel: right a b\n") + wire;
+    const Drawing drawing = buildDrawing(parseTree(tree, QStringLiteral("t.tree"), problems), page, problems);
+    QStringList route;
+    for (const Wire& drawn : drawing.wires) {
+        for (const QPointF& point : drawn.points)
+            route << QStringLiteral("%1,%2").arg(point.x()).arg(point.y());
+    }
+    QCOMPARE(route.join(QLatin1Char(' ')), points);
+    QCOMPARE(problems.empty(), !points.isEmpty());
+}
+
+void TestTrees::checks_data()
+{
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QString>("told");
+    const auto row = [](const char* name, const char* added, const char* told = "") {
+        QTest::newRow(name) << sampleTree() + QString::fromUtf8(added) << QString::fromUtf8(told);
+    };
+    row("nothing to mend", "");
+    row("two wires cross at right angles", "box low: x=30 y=200 \"/2\"\nwire low.right x=150 y=20");
+    row("a wire passes beside a label", "wire osc.bottom y=246 x=360");
+    row("a shorter value needs less room",
+        "room value \"1\"\nbox low: x=300 y=200 \"/2\"\nwire low.bottom y=280");
+    row("two branches at one point", "wire main@x=160 y=20\nwire main@x=160 y=90");
+    row("a text, a pin, a comment and a defined place",
+        "text x=350 y=200 \"# 1\" # beside it\npad pin: x=300 y=200\n\n"
+        "let here x=osc.right+30\nwire main@x=here y=250");
+
+    row("through a control", "wire main@x=120 y=20 x=330 y=120", "t.tree:5: the wire crosses out");
+    row("over a label", "wire osc.top y=5", "t.tree:5: the wire crosses oscName");
+    row("close below a label", "wire osc.left x=10 y=36 x=100 y=5", "t.tree:5: the wire crosses oscName");
+    row("through the room of a value", "box low: x=300 y=200 \"/2\"\nwire low.bottom y=280",
+        "t.tree:6: the wire crosses value");
+    row("through a multiplexer", "box low: x=30 y=120 \"/2\"\nwire low.right x=280",
+        "t.tree:6: the wire crosses mux sel");
+    row("a box on a label", "box big: x=30 y=22 \"/2\"", "t.tree:5: box big crosses oscName");
+    row("a text on a wire", "text x=100 y=55 \"clock\"", "t.tree:2: the wire crosses text clock");
+    row("out of the picture", "wire main@x=120 y=-20", "t.tree:5: the wire reaches out of the picture");
+    row("diagonal", "wire osc.right b.in",
+        "t.tree:5: the wire would run diagonally from (80, 55.5) to (193, 106.5): give it a bend");
+    row("on another wire", "box low: x=30 y=250 \"/2\"\nwire low.right x=120 y=80",
+        "t.tree:6: the wire runs along the wire of t.tree:3");
+    row("beside another wire", "wire main@x=124 y=250", "t.tree:5: the wire runs along the wire of t.tree:3");
+    row("ends on another signal", "box low: x=160 y=250 \"/2\"\nwire low.top y=106",
+        "t.tree:6: the wire touches without joining the wire of t.tree:3");
+    row("turns on another signal", "box low: x=160 y=250 \"/2\"\nwire low.top y=56 x=140",
+        "t.tree:6: the wire touches without joining the wire of t.tree:2");
+    row("crosses its own signal", "wire main@x=160 y=150",
+        "t.tree:5: the wire crosses its own signal, the wire of t.tree:3");
+    row("a kink", "wire main@x=160 y=30 x=163 y=10", "t.tree:5: the wire has a kink");
+    row("no room for the arrowhead", "wire main@x=160 y=48",
+        "t.tree:5: the wire has no room for its arrowhead at its end");
+    row("unknown control", "wire nowhere.right x=100", "t.tree:5: there is no control or figure nowhere");
+    row("offset beyond the side", "wire osc.right+20 x=100", "t.tree:5: the offset leaves the side of osc");
+    row("two bends in a row", "wire osc.bottom y=90 y=120",
+        "t.tree:5: two bends in a row along the same axis");
+    row("open quote", "text x=30 y=250 \"clock", "t.tree:5: the text has no closing quote");
+    row("crystal without room", "crystal osc oscName oscName",
+        "t.tree:5: there is no room for a crystal at osc");
+
+    QTest::newRow("no multiplexer") << "wire osc.bottom y=150 x=280 y=83 out.left"
+                                    << "t.tree: a lies in no multiplexer\nt.tree: b lies in no multiplexer";
+    QTest::newRow("no wires") << "mux sel: right a b"
+                              << "t.tree: no wire enters at a\nt.tree: no wire enters at b\n"
+                                 "t.tree: no wire ends at out";
+}
+
+void TestTrees::checks()
+{
+    QFETCH(QString, tree);
+    QTEST(problemsOf(tree), "told");
+}
+
+QTEST_MAIN(TestTrees)
+#include "tst_trees.moc"
