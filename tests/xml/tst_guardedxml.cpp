@@ -16,12 +16,9 @@ class TestGuardedXml : public QObject
 private slots:
     void contents_data();
     void contents();
-    void specialFiles_data();
     void specialFiles();
-    void failureEmptiesTheDocument();
 
 private:
-    QString write(const QByteArray& bytes);
     QTemporaryDir m_dir;
 };
 
@@ -53,14 +50,6 @@ QByteArray entityBomb()
 
 } // namespace
 
-QString TestGuardedXml::write(const QByteArray& bytes)
-{
-    QFile file(m_dir.filePath(QStringLiteral("file.xml")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        return QString();
-    return file.fileName();
-}
-
 void TestGuardedXml::contents_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -86,23 +75,16 @@ void TestGuardedXml::contents_data()
     accepted("UTF-16", utf16->fromUnicode(utf16Text));
     accepted("comment, CDATA, predefined entities", "<a><!--<!DOCTYPE a>--><b>&lt;<![CDATA[&]]></b></a>",
              QStringLiteral("<&"));
-    accepted("undeclared prefix", "<n:a><n:b>y</n:b><b>x</b></n:a>");
     accepted("deepest", nested(GuardedXml::MaxDepth));
     accepted("largest", ofSize(GuardedXml::MaxBytes));
     accepted("most attributes", withAttributes(GuardedXml::MaxEqualsSigns));
     accepted("megabyte of siblings", "<a><b>x</b>" + QByteArray("<c/>").repeated(200000) + "</a>");
 
     refused("empty", "");
-    refused("blanks", " \n");
-    refused("no XML", "MCU=ZN64G150\n");
     refused("open end", "<a><b>x</b>");
-    refused("crossed tags", "<a><b>x</a></b>");
     refused("two roots", "<a><b>x</b></a><a/>");
     refused("undeclared entity", "<a><b>&e;</b></a>");
     refused("broken UTF-8", "<a><b>\xff\xfe x</b></a>");
-    refused("cut UTF-8", "<a><b>x</b></a>\xe6\x97");
-    refused("zero byte", QByteArray("<a><b>x\0</b></a>", 17));
-    refused("unknown encoding", "<?xml version='1.0' encoding='never-heard'?><a><b>x</b></a>");
     refused("document type", "<!DOCTYPE a><a><b>x</b></a>");
     refused("document type in UTF-16", utf16->fromUnicode(QStringLiteral("<!DOCTYPE a><a><b>x</b></a>")));
     refused("entity bomb", entityBomb());
@@ -118,52 +100,39 @@ void TestGuardedXml::contents()
     QFETCH(QByteArray, bytes);
     QFETCH(bool, accepted);
     QFETCH(QString, text);
-    const QString path = write(bytes);
-    QVERIFY(!path.isEmpty());
+    QFile file(m_dir.filePath(QStringLiteral("file.xml")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
 
     QElapsedTimer timer;
     timer.start();
     QDomDocument document;
-    QCOMPARE(loadGuardedXml(path, document), accepted);
+    document.setContent(QByteArray("<old/>"));
+    QCOMPARE(loadGuardedXml(file.fileName(), document), accepted);
     QVERIFY2(timer.elapsed() < 5000, "a hostile file holds the program up"); // ample, for the sanitizers
+    QCOMPARE(document.hasChildNodes(), accepted);
 
     const QDomElement b = document.documentElement().firstChildElement(QStringLiteral("b"));
     QCOMPARE(b.isNull() ? document.documentElement().text() : b.text(), text);
 }
 
-void TestGuardedXml::specialFiles_data()
+void TestGuardedXml::specialFiles()
 {
-    QTest::addColumn<QString>("path");
-    const QString pipe = m_dir.filePath(QStringLiteral("pipe"));
+    const QString pipe = m_dir.filePath(QStringLiteral("pipe without a writer"));
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QFile large(m_dir.filePath(QStringLiteral("large.xml")));
+    QFile large(m_dir.filePath(QStringLiteral("50 MB")));
     QVERIFY(large.open(QIODevice::WriteOnly) && large.write("<a><b>x</b></a>") > 0);
     QVERIFY(large.resize(50 * 1024 * 1024));
 
-    QTest::newRow("missing") << m_dir.filePath(QStringLiteral("nowhere.xml"));
-    QTest::newRow("no name") << QString();
-    QTest::newRow("directory") << m_dir.path();
-    QTest::newRow("endless device") << QStringLiteral("/dev/zero");
-    QTest::newRow("pipe without a writer") << pipe;
-    QTest::newRow("50 MB") << large.fileName();
-}
-
-void TestGuardedXml::specialFiles()
-{
-    QFETCH(QString, path);
-    QElapsedTimer timer;
-    timer.start();
-    QDomDocument document;
-    QVERIFY(!loadGuardedXml(path, document));
-    QVERIFY(timer.elapsed() < 1000);
-}
-
-void TestGuardedXml::failureEmptiesTheDocument()
-{
-    QDomDocument document;
-    QVERIFY(loadGuardedXml(write("<a><b>x</b></a>"), document));
-    QVERIFY(!loadGuardedXml(write("<a>"), document));
-    QVERIFY(document.isNull() || !document.hasChildNodes());
+    const QString missing = m_dir.filePath(QStringLiteral("missing"));
+    for (const QString& path :
+         {missing, QString(), m_dir.path(), QStringLiteral("/dev/zero"), pipe, large.fileName()}) {
+        QElapsedTimer timer;
+        timer.start();
+        QDomDocument document;
+        QVERIFY2(!loadGuardedXml(path, document), qPrintable(path));
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(path));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestGuardedXml)
