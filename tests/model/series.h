@@ -6,35 +6,26 @@
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 /// A step that a data row takes on a model.
 using Setup = std::function<void(ZN64ConfigCLK&)>;
 
-/// A model of the series word, such as "G110".
-inline ZN64ConfigCLK modelOf(const QString& word)
-{
-    const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + word);
-    if (!traits)
-        qFatal("no series %s", qPrintable(word));
-    return ZN64ConfigCLK(traits->series);
-}
-
-/// The sorted words of the series that hold.
-template <typename Predicate>
-QStringList wordsWhere(Predicate holds)
-{
-    QStringList words;
-    for (const SeriesTraits& traits : seriesList())
-        if (holds(traits))
-            words << QLatin1String(traits.word);
-    words.sort();
-    return words;
-}
-
-/// The sorted words of a text with blanks between them.
+/// The words of a text with blanks between them.
 inline QStringList wordsOf(const char* text)
 {
-    QStringList words = QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    words.sort();
-    return words;
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/// A model of each series whose word the text names.
+inline std::vector<ZN64ConfigCLK> modelsOf(const char* text)
+{
+    std::vector<ZN64ConfigCLK> models;
+    for (const QString& word : wordsOf(text)) {
+        const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + word);
+        if (!traits)
+            qFatal("no series %s", qPrintable(word));
+        models.emplace_back(traits->series);
+    }
+    return models;
 }

