@@ -1,55 +1,45 @@
 #include "loopbackserver.h"
 
-#include <QDir>
-#include <QFile>
+#include <QNetworkProxy>
 #include <QProcess>
 #include <QSslKey>
 
 #include <memory>
 
-ServerIdentity ServerIdentity::make(const QString& folder, const QString& address)
+LoopbackServer::LoopbackServer(const QString& address)
 {
-    const ServerIdentity made{QDir(folder).filePath(address + QLatin1String(".key")),
-                              QDir(folder).filePath(address + QLatin1String(".pem"))};
-    const QString options =
-        QStringLiteral("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=test -addext subjectAltName=IP:");
-    QStringList arguments = QString(options + address).split(QLatin1Char(' '));
-    arguments << QStringLiteral("-keyout") << made.keyFile << QStringLiteral("-out") << made.certificateFile;
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    const QString options = QStringLiteral("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=test "
+                                           "-addext subjectAltName=IP:%1 -keyout %2 -out %3");
     QProcess openssl;
-    openssl.start(QStringLiteral("openssl"), arguments);
-    const bool done = openssl.waitForFinished() && openssl.exitStatus() == QProcess::NormalExit;
-    return done && openssl.exitCode() == 0 ? made : ServerIdentity();
+    openssl.start(QStringLiteral("openssl"), options.arg(address, keyFile(), certificateFile()).split(u' '));
+    if (openssl.waitForFinished() && openssl.exitStatus() == QProcess::NormalExit && openssl.exitCode() == 0)
+        listen(QHostAddress::LocalHost);
 }
 
-LoopbackServer::LoopbackServer(const ServerIdentity& identity) : m_identity(identity)
+QString LoopbackServer::url(const QByteArray& path) const
 {
-    listen(QHostAddress::LocalHost);
+    return QStringLiteral("https://127.0.0.1:%1%2").arg(serverPort()).arg(QString::fromLatin1(path));
 }
 
-QString LoopbackServer::url(const QString& path) const
+LoopbackServer::Handler LoopbackServer::answer(const QByteArray& body, const QByteArray& status,
+                                               const QByteArray& headerLines)
 {
-    return QStringLiteral("https://127.0.0.1:%1%2").arg(serverPort()).arg(path);
-}
-
-LoopbackServer::Handler LoopbackServer::answer(const QByteArray& status, const QByteArray& headerLines,
-                                               const QByteArray& body)
-{
-    return send("HTTP/1.1 " + status + "\r\n" + headerLines +
-                    "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body,
-                false);
+    const QByteArray header = "HTTP/1.1 " + status + "\r\n" + headerLines;
+    const QByteArray length = "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n";
+    return [all = header + length + body](QSslSocket& socket) { socket.write(all); };
 }
 
 LoopbackServer::Handler LoopbackServer::redirect(const QByteArray& location)
 {
-    return answer("302 Found", "Location: " + location + "\r\n", "This has moved.");
+    return answer("This has moved.", "302 Found", "Location: " + location + "\r\n");
 }
 
-LoopbackServer::Handler LoopbackServer::send(const QByteArray& bytes, bool close)
+LoopbackServer::Handler LoopbackServer::cut(const QByteArray& bytes)
 {
-    return [bytes, close](QSslSocket& socket) {
+    return [bytes](QSslSocket& socket) {
         socket.write(bytes);
-        if (close)
-            socket.disconnectFromHost();
+        socket.disconnectFromHost();
     };
 }
 
@@ -60,8 +50,8 @@ void LoopbackServer::incomingConnection(qintptr descriptor)
     connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
     const auto received = std::make_shared<QByteArray>();
     connect(socket, &QSslSocket::readyRead, this, [this, socket, received] { read(*socket, *received); });
-    socket->setPrivateKey(m_identity.keyFile);
-    socket->setLocalCertificate(m_identity.certificateFile);
+    socket->setPrivateKey(keyFile());
+    socket->setLocalCertificate(certificateFile());
     socket->startServerEncryption();
 }
 
@@ -71,9 +61,8 @@ void LoopbackServer::read(QSslSocket& socket, QByteArray& received)
     const int end = received.indexOf("\r\n\r\n");
     if (end < 0)
         return;
-    m_lastRequest = received.left(end);
+    const QByteArray path = received.split(' ').value(1);
     received.remove(0, end + 4);
     ++m_requestCount;
-    const QString path = QString::fromLatin1(m_lastRequest.split(' ').value(1));
-    m_handlers.value(path, answer("404 Not Found", "", "There is no such page."))(socket);
+    m_handlers.value(path, answer("There is no such page.", "404 Not Found"))(socket);
 }

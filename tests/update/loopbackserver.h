@@ -3,18 +3,9 @@
 #include <QHash>
 #include <QSslSocket>
 #include <QTcpServer>
+#include <QTemporaryDir>
 
 #include <functional>
-
-/// Key and certificate of a test server, made anew by openssl for each run.
-struct ServerIdentity
-{
-    QString keyFile;
-    QString certificateFile;
-
-    /// Makes both in \a folder, for the server at \a address. The file names are empty when openssl failed.
-    static ServerIdentity make(const QString& folder, const QString& address);
-};
 
 /// A web server over TLS on the loopback address, in the event loop of the test. It does to a request
 /// whatever the handler of its path does to the socket: a fault is a handler.
@@ -23,19 +14,21 @@ class LoopbackServer : public QTcpServer
 public:
     using Handler = std::function<void(QSslSocket&)>;
 
-    explicit LoopbackServer(const ServerIdentity& identity);
+    /// Has openssl make a certificate for the server at \a address; does not listen if that fails.
+    explicit LoopbackServer(const QString& address = QStringLiteral("127.0.0.1"));
 
-    void on(const QString& path, Handler handler) { m_handlers.insert(path, std::move(handler)); }
-    QString url(const QString& path) const;
+    void on(const QByteArray& path, const Handler& handler) { m_handlers.insert(path, handler); }
+    QString url(const QByteArray& path) const;
     int requestCount() const { return m_requestCount; }
-    /// The header of the last request.
-    QByteArray lastRequest() const { return m_lastRequest; }
+    QString keyFile() const { return m_keys.filePath(QStringLiteral("key")); }
+    QString certificateFile() const { return m_keys.filePath(QStringLiteral("certificate")); }
 
-    /// Answers with \a status, such as "200 OK", the header lines, and the body with its length.
-    static Handler answer(const QByteArray& status, const QByteArray& headerLines, const QByteArray& body);
+    /// Answers with the body and its length; \a headerLines come with their line ends.
+    static Handler answer(const QByteArray& body, const QByteArray& status = "200 OK",
+                          const QByteArray& headerLines = QByteArray());
     static Handler redirect(const QByteArray& location);
-    /// Sends \a bytes as they are; then closes the connection or leaves the client waiting.
-    static Handler send(const QByteArray& bytes, bool close);
+    /// Sends \a bytes as they are and closes the connection.
+    static Handler cut(const QByteArray& bytes);
 
 protected:
     void incomingConnection(qintptr descriptor) override;
@@ -43,8 +36,7 @@ protected:
 private:
     void read(QSslSocket& socket, QByteArray& received);
 
-    ServerIdentity m_identity;
-    QHash<QString, Handler> m_handlers;
+    QTemporaryDir m_keys;
+    QHash<QByteArray, Handler> m_handlers;
     int m_requestCount = 0;
-    QByteArray m_lastRequest;
 };

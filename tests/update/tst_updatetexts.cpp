@@ -20,37 +20,22 @@ private slots:
 
 void TestUpdateTexts::versions_data()
 {
-    QTest::addColumn<QString>("version");
     QTest::addColumn<int>("number");
-    const auto row = [](const char* version, int number) {
-        QTest::newRow(version) << QString::fromLatin1(version) << number;
-    };
-    row("3.0.17", ProgramVersion);
-    row("3.0.18", 0x30018);
-    row("3.0.1A", 0x3001a);
-    row("3.0.1a", 0x3001a);
-    row("3.0.100", 0x30100);
-    row("3.1.0", 0x30100);
-    row("10.0.0", 0x100000);
-    row("3.0.18.5", 0x30018); // a fourth field is not looked at
-    row("0.0.0", 0);
-    row("", 0);
-    row("3", 0);
-    row("3.0", 0);
-    row("3.0.", 0);
-    row(".0.17", 0);
-    row("V3.0.18", 0);
-    row("3.0.1G", 0);
-    row("3.0.18 beta", 0);
-    row("7fffffff.0.0", int(0xffff0000)); // the upper bits are lost, and nothing else happens
-    row("80000000.0.0", 0);
+    QTest::newRow("3.0.17") << ProgramVersion;
+    QTest::newRow("3.0.1A") << 0x3001a;
+    QTest::newRow("3.0.1a") << 0x3001a;
+    QTest::newRow("3.0.100") << 0x30100;
+    QTest::newRow("10.0.0") << 0x100000;
+    QTest::newRow("3.0.18.5") << 0x30018;             // a fourth field is not looked at
+    QTest::newRow("7fffffff.0.0") << int(0xffff0000); // the upper bits are lost, and nothing else happens
+    for (const char* none :
+         {"", "3", "3.0", "3.0.", ".0.17", "V3.0.18", "3.0.1G", "3.0.18 b", "80000000.0.0"})
+        QTest::newRow(none) << 0;
 }
 
 void TestUpdateTexts::versions()
 {
-    QFETCH(QString, version);
-    QFETCH(int, number);
-    QCOMPARE(OnlineUpdate::VersionString2Int(version), number);
+    QTEST(OnlineUpdate::VersionString2Int(QString::fromLatin1(QTest::currentDataTag())), "number");
 }
 
 void TestUpdateTexts::listElements_data()
@@ -63,16 +48,13 @@ void TestUpdateTexts::listElements_data()
     // Shorthands: <N/> is the element with the wanted name, <O/> that with another tool's.
     const auto tools = [](const QByteArray& inner) { return "<R><Top>" + inner + "</Top></R>"; };
 
-    row("after the name", tools("<T><N/><Tag>1</Tag></T>"), "1");
     row("not right after the name", tools("<T><N/><X/>text<!-- --><Tag>1</Tag></T>"), "1");
-    row("before the name", tools("<T><Tag>1</Tag><N/></T>"), "");
     row("before and after the name", tools("<T><Tag>1</Tag><N/><Tag>2</Tag></T>"), "2");
     row("the name's own element", tools("<T><Tag>Wanted</Tag></T>"), "Wanted");
     row("second tool", tools("<T><O/><Tag>1</Tag></T><U><N/><Tag>2</Tag></U>"), "2");
     row("the name does not reach into the next tool", tools("<T><N/></T><T><Tag>1</Tag></T>"), "");
     row("wanted tool twice", tools("<T><N/></T><T><N/><Tag>2</Tag></T>"), "2");
     row("name in part of a text", tools("<T><A>Wanted 2</A><Tag>1</Tag></T>"), "");
-    row("name with blanks", tools("<T><A> Wanted</A><Tag>1</Tag></T>"), "");
     row("name in other letters", tools("<T><A>wanted</A><Tag>1</Tag></T>"), "");
     row("tag in other letters", tools("<T><N/><tag>1</tag></T>"), "");
     row("text in pieces", tools("<T><N/><Tag>1<X>2</X><![CDATA[3]]></Tag></T>"), "123");
@@ -82,48 +64,41 @@ void TestUpdateTexts::listElements_data()
     row("top after others", "<R><A/>x<Top><T><N/><Tag>1</Tag></T></Top></R>", "1");
     row("top as the root", "<Top><T><N/><Tag>1</Tag></T></Top>", "");
     row("top below another", "<R><A><Top><T><N/><Tag>1</Tag></T></Top></A></R>", "");
-    row("no tool", tools(""), "");
     row("not well formed", "<R><Top><T><N/><Tag>1</Tag></T></Top>", "");
     row("document type", "<!DOCTYPE R>" + tools("<T><N/><Tag>1</Tag></T>"), "");
-    row("no XML", "3.0.18", "");
     row("empty", "", "");
 }
 
 void TestUpdateTexts::listElements()
 {
     QFETCH(QByteArray, list);
-    QFETCH(QString, text);
     list.replace("<N/>", "<Any>Wanted</Any>").replace("<O/>", "<Any>Other</Any>");
     QTemporaryFile file;
     QVERIFY(file.open() && file.write(list) == list.size());
     file.close();
-    QCOMPARE(OnlineUpdate::GetURLDownloadXMLElement(file.fileName(), QStringLiteral("Top"),
-                                                    QStringLiteral("Wanted"), QStringLiteral("Tag")),
-             text);
+    QTEST(OnlineUpdate::GetURLDownloadXMLElement(file.fileName(), QStringLiteral("Top"),
+                                                 QStringLiteral("Wanted"), QStringLiteral("Tag")),
+          "text");
 }
 
 void TestUpdateTexts::fileNames_data()
 {
     QTest::addColumn<QString>("version");
     QTest::addColumn<QString>("name");
-    const auto row = [](const char* address, const char* version, const char* name) {
-        QTest::newRow(address) << QString::fromLatin1(version) << QString::fromUtf8(name);
+    const auto row = [](const QByteArray& address, const char* version, const char* name) {
+        QTest::newRow(address.constData()) << QString::fromLatin1(version) << QString::fromUtf8(name);
     };
-    row("https://a.example/d/tool.zip", "", "tool.zip");
     row("https://a.example/d/tool.zip?x=/y.zip#z", "", "tool.zip");
     row("https://a.example/tool.tar.gz", "3.0.20", "tool.tar_V3.0.20.gz");
     row("https://a.example/tool", "3.0.20", "tool_V3.0.20.");
     row("https://a.example/a%20b%E6%97%B6.zip", "3.0.20", "a b\u65f6_V3.0.20.zip");
     row("https://a.example/%2e%2e%2fd/100%25.zip", "", "100%.zip");
     row("https://a.example/a..b", "", "a..b");
-    row("https://a.example/d/", "3.0.20", "");
-    row("https://a.example", "3.0.20", "");
-    row("https://a.example/d/..%2Ftool.zip", "", "");
-    row("https://a.example/%2Ftmp%2Ftool.zip", "", "");
-    row("https://a.example/tool%00.zip", "", "");
-    row("https://a.example/%2e%2e", "", "");
-    row("https://a.example/.", "3.0.20", "");
     row("https://a.example/other.zip", "4.0.1./../../tool", "");
+    for (const char* path :
+         {"", "/", "/d/", "/d/..%2Ftool.zip", "/%2Ftool.zip", "/a%00.zip", "/%2e%2e", "/."})
+        for (const char* version : {"", "3.0.20"})
+            row(QByteArray("https://a.example") + path, version, "");
 }
 
 void TestUpdateTexts::fileNames()
