@@ -78,32 +78,31 @@ void throwMainFile(ZN64ConfigCLK& clock, Dice& dice)
 QStringList expectedMainCalls(const ZN64ConfigCLK& clock)
 {
     QStringList calls;
-    const auto add = [&calls](const QString& name, std::initializer_list<int> values) {
-        QString call = name;
+    const auto add = [&calls](const char* name, std::initializer_list<int> values) {
+        QString call = QLatin1String(name);
         for (int value : values)
             call += QLatin1Char(' ') + QString::number(value);
         calls << call;
     };
     const bool dual = clock.traits().dual_clkout;
-    const QString divider = QStringLiteral("crm_clkout_div_set");
     if (!dual && clock.Get_CLKOUT_PinSelect() != CLKOUTPIN_NONE)
-        add(QStringLiteral("crm_clock_out_set"), {clock.Get_CLKOUT()});
+        add("crm_clock_out_set", {clock.Get_CLKOUT()});
     if (dual && clock.Get_CLKOUT1_PinSelect() != CLKOUT1PIN_NONE) {
-        add(QStringLiteral("crm_clock_out1_set"), {clock.Get_CLKOUT1()});
-        add(divider, {1, clock.Get_CLKOUT1_Div1(), clock.Get_CLKOUT1_Div2()});
+        add("crm_clock_out1_set", {clock.Get_CLKOUT1()});
+        add("crm_clkout_div_set", {1, clock.Get_CLKOUT1_Div1(), clock.Get_CLKOUT1_Div2()});
     }
     if (dual && clock.Get_CLKOUT2_PinSelect() != CLKOUT2PIN_NONE) {
-        add(QStringLiteral("crm_clock_out2_set"), {clock.Get_CLKOUT2()});
-        add(divider, {2, clock.Get_CLKOUT2_Div1(), clock.Get_CLKOUT2_Div2()});
+        add("crm_clock_out2_set", {clock.Get_CLKOUT2()});
+        add("crm_clkout_div_set", {2, clock.Get_CLKOUT2_Div1(), clock.Get_CLKOUT2_Div2()});
     }
     const int rtcCode[] = {2, 1, 3}; // the register's code by RTCSEL
     if (clock.Get_ToRTC_Switch() && dual)
-        add(QStringLiteral("crm_ertc_clock_select"),
+        add("crm_ertc_clock_select",
             {rtcCode[clock.Get_RTCSEL()], clock.Get_RTCSEL() == RTCSEL_HEXT ? clock.Get_RTC_DIV() : 0});
     if (clock.Get_ToRTC_Switch() && !dual)
-        add(QStringLiteral("crm_rtc_clock_select"), {rtcCode[clock.Get_RTCSEL()]});
+        add("crm_rtc_clock_select", {rtcCode[clock.Get_RTCSEL()]});
     if (clock.Get_ToADC_Switch() && !dual)
-        add(QStringLiteral("crm_adc_clock_div_set"), {clock.Get_ToADCDIV()});
+        add("crm_adc_clock_div_set", {clock.Get_ToADCDIV()});
     return calls;
 }
 } // namespace

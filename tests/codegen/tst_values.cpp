@@ -4,8 +4,6 @@
 
 #include <QtTest>
 
-Q_DECLARE_METATYPE(Setup)
-
 /// The values that fragments put into the text: macros, frequencies, and the result comment.
 class ValuesTest : public QObject
 {
@@ -16,44 +14,34 @@ private slots:
     void outputPins();
     void ldoVoltage();
     void hertz();
-    void commentsTheResult_data();
     void commentsTheResult();
 };
 
-void ValuesTest::macros()
+template <typename Value>
+static void expectMacros(const char* series, void (Clock::*set)(Value), QString (Clock::*macro)() const,
+                         std::initializer_list<std::pair<Value, const char*>> rows)
 {
-    // A value that its table lacks gives the first row, a clock beyond the last limit the last one.
-    using Row = std::tuple<const char*, Setup, QString (Clock::*)() const, const char*>;
-    const auto flash = [](double megahertz, const char* expected) {
-        return Row(
-            "G142", [=](Clock& c) { c.Set_SYSCLKValue(megahertz); },
-            &Clock::GetOutPutString_OscInitType_FlashPsr, expected);
-    };
-    const auto usb = [](double divider, const char* expected) {
-        return Row(
-            "G150", [=](Clock& c) { c.Set_USBDIV(divider); },
-            &Clock::GetOutPutString_SysClkInitType_USBDivider, expected);
-    };
-    const auto fu = [](int divider, const char* expected) {
-        return Row(
-            "G171", [=](Clock& c) { c.Set_PLL_FU(divider); }, &Clock::GetOutPutString_OscInitType_PLLFU,
-            expected);
-    };
-    const auto ertc = [](int divider, const char* expected) {
-        return Row(
-            "G150", [=](Clock& c) { c.Set_RTC_DIV(divider); }, &Clock::GetOutPutString_ERTCDIV_Define_String,
-            expected);
-    };
-    for (const auto& [series, setup, macro, expected] :
-         {flash(96.0, "FLASH_WAIT_CYCLE_2"), flash(96.001, "FLASH_WAIT_CYCLE_3"),
-          flash(216.5, "FLASH_WAIT_CYCLE_7"), usb(9.0, "CRM_USB_DIV_9"), usb(9.5, "CRM_USB_DIV_1"),
-          usb(1.25, "CRM_USB_DIV_1"), fu(12, "CRM_PLL_FU_12"), fu(13, "CRM_PLL_FU_13"),
-          fu(15, "CRM_PLL_FU_11"), ertc(31, "CRM_ERTC_CLOCK_HEXT_DIV_31"),
-          ertc(32, "CRM_ERTC_CLOCK_HEXT_DIV_2")}) {
-        Clock clock = clockOf(QLatin1String(series));
-        setup(clock);
+    Clock clock = clockOf(QLatin1String(series));
+    for (const auto& [value, expected] : rows) {
+        (clock.*set)(value);
         QCOMPARE((clock.*macro)(), QLatin1String(expected));
     }
+}
+
+// A value that its table lacks gives the first row, a clock beyond the last limit the last one.
+void ValuesTest::macros()
+{
+    using Row = std::pair<double, const char*>;
+    using Divider = std::pair<int, const char*>;
+    expectMacros("G142", &Clock::Set_SYSCLKValue, &Clock::GetOutPutString_OscInitType_FlashPsr,
+                 {Row(96.0, "FLASH_WAIT_CYCLE_2"), Row(96.001, "FLASH_WAIT_CYCLE_3"),
+                  Row(216.5, "FLASH_WAIT_CYCLE_7")});
+    expectMacros("G150", &Clock::Set_USBDIV, &Clock::GetOutPutString_SysClkInitType_USBDivider,
+                 {Row(9.0, "CRM_USB_DIV_9"), Row(9.5, "CRM_USB_DIV_1"), Row(1.25, "CRM_USB_DIV_1")});
+    expectMacros("G171", &Clock::Set_PLL_FU, &Clock::GetOutPutString_OscInitType_PLLFU,
+                 {Divider(12, "CRM_PLL_FU_12"), Divider(13, "CRM_PLL_FU_13"), Divider(15, "CRM_PLL_FU_11")});
+    expectMacros("G150", &Clock::Set_RTC_DIV, &Clock::GetOutPutString_ERTCDIV_Define_String,
+                 {Divider(31, "CRM_ERTC_CLOCK_HEXT_DIV_31"), Divider(32, "CRM_ERTC_CLOCK_HEXT_DIV_2")});
 }
 
 void ValuesTest::outputPins()
@@ -105,80 +93,58 @@ void ValuesTest::hertz()
     }
 }
 
-void ValuesTest::commentsTheResult_data()
-{
-    QTest::addColumn<QString>("series");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<Setup>("setup");
-    QTest::addColumn<QString>("formula");
-    QTest::addColumn<QString>("lastLines"); // the PLL's and the flash line, by their words
-    const auto row = [](const char* series, int mode, const Setup& setup, const char* formula,
-                        const char* last) {
-        QTest::addRow("%s %d %s", series, mode, formula)
-            << QString::fromLatin1(series) << mode << setup << QString::fromLatin1(formula)
-            << QString::fromLatin1(last);
-    };
-    const Setup hext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_HEXT); };
-    const Setup pllHext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL); };
-    const Setup pllDivided = [](Clock& c) {
-        c.Set_SYSCLKSelect(SYSCLK_PLL);
-        c.Set_PLLHEXTDIV(PLLHEXT_DIV);
-    };
-    const Setup pllHick = [](Clock& c) {
-        c.Set_SYSCLKSelect(SYSCLK_PLL);
-        c.Set_PLLRC(PLLRC_HICK);
-    };
-    const Setup hick48 = [](Clock& c) { c.Set_HICK_TO_SCLK(HICK_TO_SCLK_NODIV); };
-    const int normal = PLLMODE_NORMAL;
-    const int flexible = PLLMODE_FLEXIBLE;
-    const char* const ranged = "pll_mult 24, pll_range GT72MHZ (greater than 72 mhz)";
-    row("G110", normal, pllHick, "hick / 2 * pll_mult", ranged);
-    row(
-        "G110", normal,
-        [=](Clock& c) {
-            pllHext(c);
-            c.Set_PLLCLKValue(72.0);
-        },
-        "hext * pll_mult", "pll_mult 24, pll_range LE72MHZ (less than 72 mhz or equal to 72 mhz)");
-    row("P212", normal, pllHick, "hick / 12 * pll_mult", ranged);
-    row("G120", normal, pllDivided, "hext / 3 * pll_mult", ranged);
-    row("G133", normal, pllHext, "hext * pll_mult", "pll_mult 24");
-    row("G135", normal, hick48, "(hick 48)", "flash_wtcyc 4 cycle");
-    row("G125", flexible, pllHick, "(hick / 12 * pll_ns)/(pll_ms * pll_fr)",
-        "pll_ns 192, pll_ms 2, pll_fr 8");
-    row("G165", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fp)", "pll_ns 192, pll_ms 2, pll_fp 2");
-    row("H133", flexible, pllHext, "(hext * pll_ns)/(pll_ms * pll_fr) / 2", "pll_ns 192, pll_ms 2, pll_fr 8");
-    row("H133", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fr)", "pll_ns 192, pll_ms 2, pll_fr 8");
-    row("G174", flexible, hick48, "(hick 48 / 4)", "");
-    row("G167", flexible, hext, "(hext / 3)", "");
-    row("P212", flexible, hext, "(hext)", "");
-}
-
 void ValuesTest::commentsTheResult()
 {
-    QFETCH(QString, series);
-    QFETCH(int, mode);
-    QFETCH(Setup, setup);
-    QFETCH(QString, formula);
-    QFETCH(QString, lastLines);
-    Clock clock = clockOf(series);
-    clock.Set_ConfigMode(static_cast<PLLCONFIGMODE>(mode));
-    clock.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);
-    clock.Set_HEXT_DIV(3);
-    clock.Set_SCLKHICK_DIV(4);
-    clock.Set_PLL_MUL(24);
-    clock.Set_SYSCLKValue(200.0);
-    clock.Set_PLLCLKValue(72.001);
-    setup(clock);
-    QString text = QStringLiteral("* @brief  system clock config program\n  * @retval none");
-    QVERIFY(clock.GenerateCode_result(text));
-    const QStringList lines = text.split(QLatin1Char('\n'));
-    QCOMPARE(lines.value(2), QStringLiteral("  *         system clock (sclk)   = ") + formula);
-    const int last = lines.indexOf(QRegularExpression(QStringLiteral(".* apb2clk .*"))) + 1;
-    QStringList words;
-    for (const QString& line : lines.mid(last, lines.size() - last - 2))
-        words << line.section(QLatin1Char('='), 0, 0).mid(14).trimmed() + line.section(QLatin1Char('='), 1);
-    QCOMPARE(words.join(QStringLiteral(", ")), lastLines);
+    const Setup hext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_HEXT); };
+    const Setup pllHext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL); };
+    const Setup pllAt72 = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLCLKValue(72.0); };
+    const Setup pllDivided = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLHEXTDIV(PLLHEXT_DIV); };
+    const Setup pllHick = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLRC(PLLRC_HICK); };
+    const Setup hick48 = [](Clock& c) { c.Set_HICK_TO_SCLK(HICK_TO_SCLK_NODIV); };
+    const PLLCONFIGMODE normal = PLLMODE_NORMAL;
+    const PLLCONFIGMODE flexible = PLLMODE_FLEXIBLE;
+    const char* const ranged = "pll_mult 24, pll_range GT72MHZ (greater than 72 mhz)";
+    // Series, mode, setup, the formula, and the words of the PLL's and the flash line.
+    using Row = std::tuple<const char*, PLLCONFIGMODE, Setup, const char*, const char*>;
+    for (const auto& [series, mode, setup, formula, lastLines] :
+         {Row("G110", normal, pllHick, "hick / 2 * pll_mult", ranged),
+          Row("G110", normal, pllAt72, "hext * pll_mult",
+              "pll_mult 24, pll_range LE72MHZ (less than 72 mhz or equal to 72 mhz)"),
+          Row("P212", normal, pllHick, "hick / 12 * pll_mult", ranged),
+          Row("G120", normal, pllDivided, "hext / 3 * pll_mult", ranged),
+          Row("G133", normal, pllHext, "hext * pll_mult", "pll_mult 24"),
+          Row("G135", normal, hick48, "(hick 48)", "flash_wtcyc 4 cycle"),
+          Row("G125", flexible, pllHick, "(hick / 12 * pll_ns)/(pll_ms * pll_fr)",
+              "pll_ns 192, pll_ms 2, pll_fr 8"),
+          Row("G165", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fp)",
+              "pll_ns 192, pll_ms 2, pll_fp 2"),
+          Row("H133", flexible, pllHext, "(hext * pll_ns)/(pll_ms * pll_fr) / 2",
+              "pll_ns 192, pll_ms 2, pll_fr 8"),
+          Row("H133", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fr)",
+              "pll_ns 192, pll_ms 2, pll_fr 8"),
+          Row("G174", flexible, hick48, "(hick 48 / 4)", ""), Row("G167", flexible, hext, "(hext / 3)", ""),
+          Row("P212", flexible, hext, "(hext)", "")}) {
+        Clock clock = clockOf(QLatin1String(series));
+        clock.Set_ConfigMode(mode);
+        clock.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);
+        clock.Set_HEXT_DIV(3);
+        clock.Set_SCLKHICK_DIV(4);
+        clock.Set_PLL_MUL(24);
+        clock.Set_SYSCLKValue(200.0);
+        clock.Set_PLLCLKValue(72.001);
+        setup(clock);
+        QString text = QStringLiteral("* @brief  system clock config program\n  * @retval none");
+        QVERIFY(clock.GenerateCode_result(text));
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        QCOMPARE(lines.value(2),
+                 QStringLiteral("  *         system clock (sclk)   = ") + QLatin1String(formula));
+        const int last = lines.indexOf(QRegularExpression(QStringLiteral(".* apb2clk .*"))) + 1;
+        QStringList words;
+        for (const QString& line : lines.mid(last, lines.size() - last - 2))
+            words << line.section(QLatin1Char('='), 0, 0).mid(14).trimmed() +
+                         line.section(QLatin1Char('='), 1);
+        QCOMPARE(words.join(QStringLiteral(", ")), QLatin1String(lastLines));
+    }
 }
 
 QTEST_GUILESS_MAIN(ValuesTest)
