@@ -111,6 +111,11 @@ void TestView::resetKeepsTheSpeedOfPans()
     const QPoint before = scrolled();
     QTest::keyClick(m_view.data(), Qt::Key_Left);
     QCOMPARE(scrolled() - before, QPoint(4, 0));
+    // The next zoom multiplies the old product, not the scale that shows.
+    m_view->zoom(2.0f);
+    const QPoint zoomedAgain = scrolled();
+    QTest::keyClick(m_view.data(), Qt::Key_Left);
+    QCOMPARE(scrolled() - zoomedAgain, QPoint(8, 0));
 }
 
 void TestView::wheelZoomsWithNothingButCtrl()

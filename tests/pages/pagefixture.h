@@ -19,6 +19,12 @@ public:
         page->show();
         if (!QTest::qWaitForWindowActive(page.data()))
             qFatal("the page did not show");
+        // A box that nobody expects would stay for good.
+        m_watch.callOnTimeout([] {
+            if (const QWidget* box = QApplication::activeModalWidget())
+                qFatal("left open: %s", qPrintable(box->property("text").toString()));
+        });
+        m_watch.start(10000);
     }
     explicit PageFixture(const QString& word)
         : PageFixture(seriesByName(QLatin1String("ZN64") + word)->series)
@@ -111,6 +117,8 @@ public:
 
 private:
     QStringList modelState() const;
+
+    QTimer m_watch;
 };
 
 inline bool isResult(const QString& name)

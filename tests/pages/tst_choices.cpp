@@ -17,6 +17,7 @@ private slots:
     void colorsAtTheLimits_data();
     void colorsAtTheLimits();
     void rtcNeedsAGoodHext();
+    void usbIsExact();
     void warningsAbove240();
     void oneListIsOpen_data() { seriesRows(); }
     void oneListIsOpen();
@@ -99,6 +100,7 @@ void TestChoices::enabledBlocks_data()
                      {"sclkselect_hick tortc=enable rtcsel_lext",                       "lext rtc"                      },
                      {"sclkselect_hick tortc=enable rtcsel_hext",                       "hext rtc"                      },
                      {"sclkselect_hick tortc=enable rtcsel_hext tortc=disable",         ""                              },
+                     {"sclkselect_hick tortc=enable rtcsel_lext tortc=disable",         ""                              },
     });
     rows(
         "G150",
@@ -327,6 +329,17 @@ void TestChoices::rtcNeedsAGoodHext()
     QCOMPARE(answers.shown(), QStringList({errorBox("hext input error!"), errorBox("hext input error!")}));
     QCOMPARE(page.text("m_tortc_lineEdit"), QStringLiteral("0"));
     QCOMPARE(page.model().Get_Hext_Input_Value(), 8.0);
+}
+
+void TestChoices::usbIsExact()
+{
+    const PageFixture page(ZN64G110);
+    for (double usb : {48.0, 47.9999, 48.0001, 48.0}) {
+        page.model().Set_USBCLKValue(usb);
+        page.page->UpdateResultControls();
+        QCOMPARE(page.color("m_usbclock_Label"),
+                 usb == 48.0 ? QStringLiteral("darkGreen") : QStringLiteral("red"));
+    }
 }
 
 void TestChoices::warningsAbove240()

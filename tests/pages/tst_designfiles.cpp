@@ -258,8 +258,8 @@ void TestDesignFiles::elements_data()
 {
     QTest::addColumn<QByteArray>("element");
     QTest::addColumn<QString>("expected");
-    // Expected: lines of the state, with a "; " between them. System clock and USB stand on hick and off, so
-    // that nothing is forced or calculated into the settings.
+    // Expected: lines of the state, with a "; " between them. On G110 the system clock stands on hick, so
+    // that no divider is forced.
     const auto rows = [](const char* word, std::initializer_list<std::array<const char*, 2>> rows) {
         for (const auto& [element, expected] : rows)
             QTest::addRow("%s %s", word, element) << QByteArray(element) << QString::fromLatin1(expected);
@@ -310,35 +310,36 @@ void TestDesignFiles::elements_data()
                      {"hext=99999999",       "Hext_Input_Value 99999999; m_hext_lineEdit (off): 1e+08"  },
     });
     rows("G150", {
-                     {"rtcdiv=31",           "RTC_DIV 31; m_rtcdiv_ComboBox (off): 29  /31"             },
-                     {"rtcdiv=32",           "RTC_DIV 2; m_rtcdiv_ComboBox (off): 0  /2"                },
-                     {"rtcdiv=1",            "RTC_DIV 2; m_rtcdiv_ComboBox (off): 0  /2"                },
-                     {"pllms=15",            "PLL_MS 15; m_pllms_lineEdit (off): /15 "                  },
-                     {"pllms=16",            "PLL_MS 1; m_pllms_lineEdit (off): /1 "                    },
-                     {"pllms=0",             "PLL_MS 1; m_pllms_lineEdit (off): /1 "                    },
-                     {"pllns=31",            "PLL_NS 31; m_pllns_lineEdit (off): *31 "                  },
-                     {"pllns=500",           "PLL_NS 500; m_pllns_lineEdit (off): *500 "                },
-                     {"pllns=501",           "PLL_NS 31; m_pllns_lineEdit (off): *31 "                  },
-                     {"pllfr=32",            "PLL_FR 32; m_pllfr_ComboBox (off): 5  /32"                },
-                     {"pllfr=3",             "PLL_FR 1; m_pllfr_ComboBox (off): 0  /1"                  },
-                     {"usbdiv=7.0",          "USBDIV 7; m_usbdiv_ComboBox (off): 12  /7"                },
-                     {"usbdiv=7.5",          "USBDIV 1; m_usbdiv_ComboBox (off): 0  /1"                 },
-                     {"hicktousb=1",         "HICK_TO_USB 1; m_tousb_hick_RadioButton (off): checked"   },
-                     {"hicktousb=2",         "HICK_TO_USB 0; m_tousb_pll_RadioButton (off): checked"    },
-                     {"hicktosclk=1",        "HICK_TO_SCLK 1; m_hicktosclk_RadioButton: checked"        },
-                     {"hicktosclk=2",        "HICK_TO_SCLK 0; m_hicktosclk_div6_RadioButton: checked"   },
-                     {"clkout1=3",           "CLKOUT1 3; m_clockout1_pll_RadioButton (off): checked"    },
-                     {"clkout1=4",           "CLKOUT1 0; m_clockout1_hick_RadioButton (off): checked"   },
-                     {"clkout1div1=5",       "CLKOUT1_Div1 5; m_clockout1div1_ComboBox (off): 4  /5"    },
-                     {"clkout1div1=6",       "CLKOUT1_Div1 1; m_clockout1div1_ComboBox (off): 0  /1"    },
-                     {"clkout2div2=512",     "CLKOUT2_Div2 512; m_clockout2div2_ComboBox (off): 8  /512"},
-                     {"clkout2div2=32",      "CLKOUT2_Div2 1; m_clockout2div2_ComboBox (off): 0  /1"    },
-                     {"clkout1pinselect=2",  "CLKOUT1_PinSelect 2; m_clockout1pin_ComboBox: 2PE4"       },
-                     {"clkout1pinselect=3",  "CLKOUT1_PinSelect 3; m_clockout1pin_ComboBox: -1"         },
-                     {"clkout2=7",           "CLKOUT2 7; m_clockout2_lext_RadioButton (off): checked"   },
-                     {"clkout2=8",           "CLKOUT2 0; m_clockout2_sclk_RadioButton (off): checked"   },
-                     {"clkout2=3",           "CLKOUT2 4; m_clockout2_hick_RadioButton (off): checked"   },
-                     {"clkout2pinselect=-7", "CLKOUT2_PinSelect -7; m_clockout2pin_ComboBox: -1"        },
+                     {"rtcdiv=31",           "RTC_DIV 31; m_rtcdiv_ComboBox (off): 29  /31"                },
+                     {"rtcdiv=32",           "RTC_DIV 2; m_rtcdiv_ComboBox (off): 0  /2"                   },
+                     {"rtcdiv=1",            "RTC_DIV 2; m_rtcdiv_ComboBox (off): 0  /2"                   },
+                     {"pllms=15",            "PLL_MS 15; m_pllms_lineEdit: /15 "                           },
+                     {"pllms=16",            "PLL_MS 1; m_pllms_lineEdit: /1 "                             },
+                     {"pllms=0",             "PLL_MS 1; m_pllms_lineEdit: /1 "                             },
+                     {"pllms=007",           "PLL_MS 7; m_pllms_lineEdit: /007 "                           },
+                     {"pllns=31",            "PLL_NS 31; m_pllns_lineEdit: *31 "                           },
+                     {"pllns=500",           "PLL_NS 500; m_pllns_lineEdit: *500 "                         },
+                     {"pllns=501",           "PLL_NS 31; m_pllns_lineEdit: *31 "                           },
+                     {"pllfr=32",            "PLL_FR 32; m_pllfr_ComboBox: 5  /32"                         },
+                     {"pllfr=3",             "PLL_FR 1; m_pllfr_ComboBox: 0  /1"                           },
+                     {"usbdiv=7.0",          "USBDIV 7; m_usbdiv_ComboBox (off): 12  /7"                   },
+                     {"usbdiv=7.5",          "USBDIV 1; m_usbdiv_ComboBox (off): 0  /1"                    },
+                     {"hicktousb=1",         "HICK_TO_USB 1; m_tousb_hick_RadioButton (off): checked"      },
+                     {"hicktousb=2",         "HICK_TO_USB 0; m_tousb_pll_RadioButton (off): checked"       },
+                     {"hicktosclk=1",        "HICK_TO_SCLK 1; m_hicktosclk_RadioButton (off): checked"     },
+                     {"hicktosclk=2",        "HICK_TO_SCLK 0; m_hicktosclk_div6_RadioButton (off): checked"},
+                     {"clkout1=3",           "CLKOUT1 3; m_clockout1_pll_RadioButton (off): checked"       },
+                     {"clkout1=4",           "CLKOUT1 0; m_clockout1_hick_RadioButton (off): checked"      },
+                     {"clkout1div1=5",       "CLKOUT1_Div1 5; m_clockout1div1_ComboBox (off): 4  /5"       },
+                     {"clkout1div1=6",       "CLKOUT1_Div1 1; m_clockout1div1_ComboBox (off): 0  /1"       },
+                     {"clkout2div2=512",     "CLKOUT2_Div2 512; m_clockout2div2_ComboBox (off): 8  /512"   },
+                     {"clkout2div2=32",      "CLKOUT2_Div2 1; m_clockout2div2_ComboBox (off): 0  /1"       },
+                     {"clkout1pinselect=2",  "CLKOUT1_PinSelect 2; m_clockout1pin_ComboBox: 2PE4"          },
+                     {"clkout1pinselect=3",  "CLKOUT1_PinSelect 3; m_clockout1pin_ComboBox: -1"            },
+                     {"clkout2=7",           "CLKOUT2 7; m_clockout2_lext_RadioButton (off): checked"      },
+                     {"clkout2=8",           "CLKOUT2 0; m_clockout2_sclk_RadioButton (off): checked"      },
+                     {"clkout2=3",           "CLKOUT2 4; m_clockout2_hick_RadioButton (off): checked"      },
+                     {"clkout2pinselect=-7", "CLKOUT2_PinSelect -7; m_clockout2pin_ComboBox: -1"           },
     });
 }
 
@@ -350,7 +351,7 @@ void TestDesignFiles::elements()
     const QByteArray name = element.split('=').first();
     QByteArray document;
     for (QByteArray each : (word == QLatin1String("G110") ? g110 : g150).split(' ')) {
-        if (each.startsWith("sclkselect="))
+        if (each.startsWith("sclkselect=") && word == QLatin1String("G110"))
             each = "sclkselect=2";
         document += each.startsWith(name + '=') ? element + ' ' : each + ' ';
     }
