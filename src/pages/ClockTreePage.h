@@ -52,7 +52,6 @@ public:
     // What one block may ask about the rest of the tree. The answers come from the controls.
 
     bool rtcOn() const;
-    bool lextInUse() const;
     bool sclkFromPll() const;
     bool sclkFromHick() const;
     bool hextFeedsPll() const;

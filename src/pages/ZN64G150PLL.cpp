@@ -83,17 +83,17 @@ Places clockOutputPlaces()
         labelAt("m_clockout1div1_Label", 384, 495, "clockout1div1"),
         comboAt("m_clockout1div1_ComboBox", 383, 515, 80),
         radioAt("m_clockout1_hick_RadioButton", 514, 490),
-        labelAt("m_clockout1_hick_QLabel1", 572, 487, "hick"),
-        labelAt("m_clockout1_hick_QLabel", 612, 487, ""),
+        labelAt("m_clockout1_hick_QLabel1", 572, 490, "hick"),
+        labelAt("m_clockout1_hick_QLabel", 612, 490, ""),
         radioAt("m_clockout1_lext_RadioButton", 514, 511),
-        labelAt("m_clockout1_lext_QLabel1", 572, 508, "lext"),
-        labelAt("m_clockout1_lext_QLabel", 612, 508, ""),
+        labelAt("m_clockout1_lext_QLabel1", 572, 511, "lext"),
+        labelAt("m_clockout1_lext_QLabel", 612, 511, ""),
         radioAt("m_clockout1_hext_RadioButton", 514, 532),
-        labelAt("m_clockout1_hext_QLabel1", 572, 529, "hext"),
-        labelAt("m_clockout1_hext_QLabel", 612, 529, ""),
+        labelAt("m_clockout1_hext_QLabel1", 572, 532, "hext"),
+        labelAt("m_clockout1_hext_QLabel", 612, 532, ""),
         radioAt("m_clockout1_pll_RadioButton", 514, 554),
-        labelAt("m_clockout1_pll_QLabel1", 572, 551, "pll"),
-        labelAt("m_clockout1_pll_QLabel", 612, 551, ""),
+        labelAt("m_clockout1_pll_QLabel1", 572, 554, "pll"),
+        labelAt("m_clockout1_pll_QLabel", 612, 554, ""),
         labelAt("m_clockout1_QLabel", 500, 585, "clkout1"),
         labelAt("m_clockout1_Value_QLabel", 50, 545, "", 10, 70),
         labelAt("m_clockout2pin_Label", 136, 674, "select pin"),
@@ -103,29 +103,29 @@ Places clockOutputPlaces()
         labelAt("m_clockout2div1_Label", 384, 674, "clockout2div1"),
         comboAt("m_clockout2div1_ComboBox", 383, 694, 80),
         radioAt("m_clockout2_sclk_RadioButton", 514, 626),
-        labelAt("m_clockout2_sclk_QLabel1", 572, 623, "sclk"),
-        labelAt("m_clockout2_sclk_QLabel", 612, 623, ""),
+        labelAt("m_clockout2_sclk_QLabel1", 572, 626, "sclk"),
+        labelAt("m_clockout2_sclk_QLabel", 612, 626, ""),
         radioAt("m_clockout2_hext_RadioButton", 514, 646),
-        labelAt("m_clockout2_hext_QLabel1", 572, 643, "hext"),
-        labelAt("m_clockout2_hext_QLabel", 612, 643, ""),
+        labelAt("m_clockout2_hext_QLabel1", 572, 646, "hext"),
+        labelAt("m_clockout2_hext_QLabel", 612, 646, ""),
         radioAt("m_clockout2_pll_RadioButton", 514, 667),
-        labelAt("m_clockout2_pll_QLabel1", 572, 664, "pll"),
-        labelAt("m_clockout2_pll_QLabel", 612, 664, ""),
+        labelAt("m_clockout2_pll_QLabel1", 572, 667, "pll"),
+        labelAt("m_clockout2_pll_QLabel", 612, 667, ""),
         radioAt("m_clockout2_usb_RadioButton", 514, 688),
-        labelAt("m_clockout2_usb_QLabel1", 572, 685, "usb"),
-        labelAt("m_clockout2_usb_QLabel", 612, 685, ""),
+        labelAt("m_clockout2_usb_QLabel1", 572, 688, "usb"),
+        labelAt("m_clockout2_usb_QLabel", 612, 688, ""),
         radioAt("m_clockout2_hick_RadioButton", 514, 709),
-        labelAt("m_clockout2_hick_QLabel1", 572, 706, "hick"),
-        labelAt("m_clockout2_hick_QLabel", 612, 706, ""),
+        labelAt("m_clockout2_hick_QLabel1", 572, 709, "hick"),
+        labelAt("m_clockout2_hick_QLabel", 612, 709, ""),
         radioAt("m_clockout2_adcclk_RadioButton", 514, 730),
-        labelAt("m_clockout2_adcclk_QLabel1", 572, 727, "adcclk"),
-        labelAt("m_clockout2_adcclk_QLabel", 612, 727, ""),
+        labelAt("m_clockout2_adcclk_QLabel1", 572, 730, "adcclk"),
+        labelAt("m_clockout2_adcclk_QLabel", 612, 730, ""),
         radioAt("m_clockout2_lick_RadioButton", 514, 751),
-        labelAt("m_clockout2_lick_QLabel1", 572, 748, "lick"),
-        labelAt("m_clockout2_lick_QLabel", 612, 748, ""),
+        labelAt("m_clockout2_lick_QLabel1", 572, 751, "lick"),
+        labelAt("m_clockout2_lick_QLabel", 612, 751, ""),
         radioAt("m_clockout2_lext_RadioButton", 514, 771),
-        labelAt("m_clockout2_lext_QLabel1", 572, 768, "lext"),
-        labelAt("m_clockout2_lext_QLabel", 612, 768, ""),
+        labelAt("m_clockout2_lext_QLabel1", 572, 771, "lext"),
+        labelAt("m_clockout2_lext_QLabel", 612, 771, ""),
         labelAt("m_clockout2_QLabel", 500, 807, "clkout2"),
         labelAt("m_clockout2_Value_QLabel", 50, 723, "", 10, 70),
     };
@@ -296,7 +296,7 @@ std::vector<ListGroup> lists()
         {"SPI1", "SPI4", "USART1", "USART6", "SCFG"}, {"TMR1", "TMR8", "TMR9", "TMR10", "TMR11", "TMR20"});
 }
 
-PageLimits limits()
+PageLimits pageLimits()
 {
     PageLimits limits;
     limits.lowestSysclk = 4.0;
@@ -327,7 +327,7 @@ PageDescription describe()
                          "hicktousb",   "tousbswitch", "clkout1pinselect", "clkout1",
                          "clkout1div1", "clkout1div2", "clkout2pinselect", "clkout2",
                          "clkout2div1", "clkout2div2"};
-    page.limits = limits();
+    page.limits = pageLimits();
     page.hardLimits = descriptionparts::hardLimits(page.limits);
     page.softLimits = {descriptionparts::usbClock()};
     page.usbDivisors = listOf(divisors::usbHalfStepsTo7);

@@ -15,13 +15,9 @@
 bool ClockTreePage::passesHardLimits() const
 {
     for (const HardLimit& limit : m_description.hardLimits) {
-        const bool below = limit.bound == Bound::Lowest;
         if (limit.clock == Clock::Pll && !m_pllOutput->shown())
             continue;
-        if (below && model().Get_ConfigMode() != PLLMODE_NORMAL)
-            continue;
-        const double value = clockValue(model(), limit.clock);
-        if (below ? value < limit.compared : value > limit.compared) {
+        if (clockValue(model(), limit.clock) > limit.compared) {
             showError(translated(limit.words) + QStringLiteral(" %1MHz").arg(limit.shown));
             return false;
         }

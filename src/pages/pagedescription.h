@@ -26,21 +26,14 @@ struct PageLimits
     std::optional<double> sysclkWarning;
 };
 
-enum class Bound
-{
-    Highest,
-    Lowest
-};
-
 /// A limit that saving and generating refuse to pass; a value equal to it is good. The PLL's limits count
-/// only while the PLL is in use, its lowest frequency only in normal mode.
+/// only while the PLL is in use.
 struct HardLimit
 {
     Clock clock;
     double compared; ///< MHz
     int shown;       ///< MHz in the message; on some series not the number compared, which is meant
     const char* words;
-    Bound bound = Bound::Highest;
 };
 
 /// A broken limit that saving and generating ask about.
@@ -134,8 +127,6 @@ struct ClockOutputDescription
     /// The source that is checked when the chosen one is switched off.
     int fallback = 0;
     HickAtOutput hick = HickAtOutput::Routed;
-    /// lext shows its frequency only while the RTC runs from it.
-    bool lextNeedsRtc = false;
 };
 
 /// Everything that sets the page of one series apart. It is constant data, read by the page and its blocks,

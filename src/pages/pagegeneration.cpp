@@ -71,8 +71,10 @@ void ClockTreePage::showGenerated(const QString& folder) const
                          QStringLiteral("\n\nsrc/main.c\nsrc/%1_clock.c\ninc/%1_clock.h\ninc/%1_conf.h\n")
                              .arg(QLatin1String(m_description.stem));
     QMessageBox box(QMessageBox::Information, translated("Information"), text);
+    box.setTextFormat(Qt::PlainText);
     QPushButton* open = box.addButton(translated(" Open Folder  "), QMessageBox::ActionRole);
-    box.addButton(translated("OK"), QMessageBox::ActionRole);
+    // With no button of a closing role the box could not be closed by Escape or from its frame.
+    box.setEscapeButton(box.addButton(translated("OK"), QMessageBox::ActionRole));
     box.exec();
     if (box.clickedButton() == open)
         QDesktopServices::openUrl(QUrl::fromLocalFile(folder));

@@ -20,11 +20,6 @@ bool ClockTreePage::rtcOn() const
     return m_lowSpeed->rtcOn();
 }
 
-bool ClockTreePage::lextInUse() const
-{
-    return m_lowSpeed->rtcOn() && m_lowSpeed->lextSelected();
-}
-
 bool ClockTreePage::sclkFromPll() const
 {
     return m_systemClock->pllSelected();

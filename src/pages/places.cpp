@@ -11,8 +11,10 @@ Places::Places(std::initializer_list<ControlPlace> places)
 Places Places::operator+(const Places& other) const
 {
     Places all(*this);
-    for (const ControlPlace& place : other.m_places)
+    for (const ControlPlace& place : other.m_places) {
+        Q_ASSERT_X(!has(QLatin1String(place.name)), "Places", place.name);
         all.m_places.insert(QLatin1String(place.name), place);
+    }
     return all;
 }
 

@@ -7,9 +7,9 @@ namespace styles {
 
 // Edits with a two pixel frame: oscillators and system clock.
 const QString& plainBox();
-const QString& greyBox();
 const QString& greyLextBox();
 const QString& createdHext();
+const QString& createdSysclk();
 const QString& committed();
 const QString& pending();
 const QString& disabled();

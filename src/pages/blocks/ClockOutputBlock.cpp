@@ -163,7 +163,7 @@ bool ClockOutputBlock::usesHext() const
 
 void ClockOutputBlock::UpdateResultControls()
 {
-    // With no pin the last frequency stays at it, grey.
+    // With no pin the last frequency stays at it.
     if (!pinSet())
         return;
     const Row* checked = checkedRow();
@@ -187,8 +187,6 @@ std::optional<ClockOutputBlock::Frequency> ClockOutputBlock::frequencyOf(OutputS
     case OutputSource::Lick:
         return Frequency{model().Get_Lick_Input_Value(), "kHz"};
     case OutputSource::Lext:
-        if (m_description.lextNeedsRtc && !page().lextInUse())
-            return {};
         return Frequency{model().Get_Lext_Input_Value(), "kHz"};
     case OutputSource::Hick:
         return Frequency{hickFrequency(), "MHz"};

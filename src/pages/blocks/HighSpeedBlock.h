@@ -16,7 +16,7 @@ public:
     /// Parses the typed hext. Out of 4 to 25 MHz: value 0 and false after the error box. While a design file
     /// is read every number passes.
     bool Hext_Value_Valid(double& value);
-    /// The same for the check before generating, which leaves the model alone.
+    /// The typed hext, MHz; 0 for a text that is no number.
     double typed() const { return m_hext_lineEdit->text().toDouble(); }
     /// Writes a corrected hext, MHz, into the model and the edit, and commits it.
     void correct(double hext);

@@ -67,18 +67,13 @@ bool PllSourceBlock::PLLInputSourceClockCheck()
     if (page().readingDesign() || !model().pll_isEnable() || !hextSelected())
         return true;
     const double input = model().GetPllInPutValue();
-    if (input < inputlimits::pllInputMin) {
-        page().showError("pll input clock source range 2-16MHz!");
-        page().correctHext(2 * model().Get_HEXT_DIV());
-        return false;
-    }
-    if (input > inputlimits::pllInputMax) {
-        page().showError("pll input clock source range 2-16MHz!");
-        // Whatever divider is chosen: the undivided limit is good with any of them.
-        page().correctHext(inputlimits::pllInputMax);
-        return false;
-    }
-    return true;
+    if (input >= inputlimits::pllInputMin && input <= inputlimits::pllInputMax)
+        return true;
+    page().showError("pll input clock source range 2-16MHz!");
+    // Too high: 16 whatever divider is chosen, for the undivided limit is good with any of them.
+    page().correctHext(input < inputlimits::pllInputMin ? 2 * model().Get_HEXT_DIV()
+                                                        : inputlimits::pllInputMax);
+    return false;
 }
 
 void PllSourceBlock::pllhextdiv_RadioButton_checkSlot(bool)

@@ -25,8 +25,6 @@ void SystemClockBlock::New_sclkselect()
     m_sclkselect_hext_RadioButton = radio(QStringLiteral("m_sclkselect_hext_RadioButton"), group);
     m_sclkselect_pll_RadioButton = radio(QStringLiteral("m_sclkselect_pll_RadioButton"), group);
     m_sclkselect_hick_RadioButton = radio(QStringLiteral("m_sclkselect_hick_RadioButton"), group);
-    showRadios({m_sclkselect_hext_RadioButton, m_sclkselect_pll_RadioButton, m_sclkselect_hick_RadioButton},
-               true);
     m_sclkselectChoices = {
         {SYSCLK_HEXT, m_sclkselect_hext_RadioButton},
         {SYSCLK_PLL,  m_sclkselect_pll_RadioButton },
@@ -48,7 +46,7 @@ void SystemClockBlock::New_Result()
     m_sclk_lineEdit->setFont(QFont(QStringLiteral("Arial"), 10, 75));
     m_sclk_lineEdit->setFixedSize(editWidth, editHeight);
     m_sclk_lineEdit->setMaxLength(9);
-    m_sclk_lineEdit->setStyleSheet(styles::committed());
+    m_sclk_lineEdit->setStyleSheet(styles::createdSysclk());
     m_sclk_lineEdit->setValidator(inputlimits::frequencyValidator(&page()));
     labelIfPlaced(QStringLiteral("m_sclkRange_Label"));
     if (!page().description().limits.sysclkWarning)
