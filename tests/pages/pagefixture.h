@@ -6,14 +6,16 @@
 
 #include <QGraphicsScene>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
 
-/// A shown page of one series with the hands and the eyes of a user. Controls go by their member names; a
-/// name that the page lacks ends the test program.
+/// A shown page of one series with the hands and the eyes of a user. Controls go by their member names
+/// without "m_"; a name that the page lacks ends the test program.
 class PageFixture
 {
 public:
-    explicit PageFixture(ZN64MCUSERIALS series) : page(createSeriesPage(series, nullptr))
+    explicit PageFixture(const QString& word)
+        : page(createSeriesPage(seriesByName(QLatin1String("ZN64") + word)->series, nullptr))
     {
         page->resize(1430, 860);
         page->show();
@@ -26,133 +28,145 @@ public:
         });
         m_watch.start(10000);
     }
-    explicit PageFixture(const QString& word)
-        : PageFixture(seriesByName(QLatin1String("ZN64") + word)->series)
-    {
-    }
 
     ZN64ConfigCLK& model() const { return page->model(); }
     QString series() const { return seriesName(page->model().series()); }
     QWidget* viewport() const { return page->view()->viewport(); }
+    QList<QWidget*> controls() const
+    {
+        return page->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^m_")));
+    }
 
     template <class Control = QWidget>
     Control* find(const QString& name) const
     {
-        auto* control = page->findChild<Control*>(name);
+        auto* control = page->findChild<Control*>(QLatin1String("m_") + name);
         if (!control)
             qFatal("no control %s", qPrintable(name));
         return control;
     }
-    bool has(const char* name) const { return page->findChild<QWidget*>(QLatin1String(name)) != nullptr; }
 
-    QString text(const char* name) const
+    /// The steps in "clockoutpin=PA8 clockout_hext hext_lineEdit=10 sclk_lineEdit~5": an item of a combo with
+    /// "_" for a blank, a radio button, a text typed and committed with Return, a text typed only.
+    void take(const QString& steps) const;
+    /// Clicks the middle of the control.
+    void click(const QString& name) const
     {
-        const auto* control = find<QWidget>(QLatin1String(name));
-        if (const auto* combo = qobject_cast<const QComboBox*>(control))
-            return combo->currentText().trimmed();
-        return control->property("text").toString();
+        QTest::mouseClick(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(find(name)));
     }
-    bool enabled(const char* name) const { return find<QWidget>(QLatin1String(name))->isEnabled(); }
-    bool checked(const char* name) const { return find<QRadioButton>(QLatin1String(name))->isChecked(); }
-    /// "red", "darkGreen", "gray", "black": the colour of an edit's or a label's text.
-    QString color(const char* name) const
-    {
-        const auto* control = find<QWidget>(QLatin1String(name));
-        const bool label = qobject_cast<const QLabel*>(control);
-        const QColor color = control->palette().color(label ? QPalette::WindowText : QPalette::Text);
-        return color == Qt::red         ? QStringLiteral("red")
-               : color == Qt::darkGreen ? QStringLiteral("darkGreen")
-               : color == Qt::gray      ? QStringLiteral("gray")
-               : color == Qt::black     ? QStringLiteral("black")
-                                        : color.name();
-    }
-    /// "green" for committed, "pale" for pending, "white" for disabled: the ground of an edit.
-    QString ground(const char* name) const
-    {
-        const QString sheet = find<QWidget>(QLatin1String(name))->styleSheet();
-        return sheet.contains(QLatin1String("rgb(152, 251, 152)"))   ? QStringLiteral("green")
-               : sheet.contains(QLatin1String("rgb(255, 255, 225)")) ? QStringLiteral("pale")
-               : sheet.contains(QLatin1String("rgb(255, 255, 255)")) ? QStringLiteral("white")
-                                                                     : sheet;
-    }
-
-    /// Chooses the item of the text, blanks aside. Only an enabled combo takes it.
-    void choose(const char* name, const char* item) const
-    {
-        auto* combo = find<QComboBox>(QLatin1String(name));
-        for (int i = 0; i < combo->count(); ++i)
-            if (combo->isEnabled() && combo->itemText(i).trimmed() == QLatin1String(item))
-                return combo->setCurrentIndex(i);
-        qFatal("%s does not offer %s", name, item);
-    }
-    void click(const char* name) const
-    {
-        const auto* control = find<QWidget>(QLatin1String(name));
-        const auto* radio = qobject_cast<const QRadioButton*>(control);
-        QTest::mouseClick(viewport(), Qt::LeftButton, Qt::NoModifier, onViewport(control));
-        if (radio && !radio->isChecked() && radio->isEnabled())
-            qFatal("%s took no click", name);
-    }
-    /// Types the text in place of the present one, and commits it with Return.
-    void type(const char* name, const QByteArray& text, bool commit = true) const
-    {
-        click(name);
-        auto* edit = find<QLineEdit>(QLatin1String(name));
-        edit->selectAll();
-        QTest::keyClick(viewport(), Qt::Key_Delete);
-        QTest::keyClicks(viewport(), QLatin1String(text));
-        if (commit)
-            QTest::keyClick(viewport(), Qt::Key_Return);
-    }
-    QPoint onViewport(const QWidget* control) const
+    QPoint middleOf(const QWidget* control) const
     {
         const QPoint middle = control->mapTo(control->window(), control->rect().center());
         return page->view()->mapFromScene(ZN64MCUPLL::proxyOf(control)->mapToScene(middle));
     }
 
+    /// The expected "name: text; name: text" as the page has it. A "?" behind a name adds the colours of the
+    /// text and of an edit's ground; a name may also be that of a model field.
+    QString shows(const QString& expected) const;
+    /// Everything that a user can see or set, one line per control, and every field of the model. Left out is
+    /// what may tell of earlier states: the texts of hidden or grey labels, that of a grey RTC output, the
+    /// frequencies of a PLL and a USB that are not in use.
     QStringList state() const;
-    void takeRandomStep(QRandomGenerator& random) const;
+    /// Random choices of those that the page offers at the moment, with all questions agreed to. A
+    /// recalculation ends them: a refused edit leaves old results on the screen until the next good one.
+    void takeRandomSteps(int count, QRandomGenerator& random) const;
 
     QScopedPointer<ClockTreePage> page;
 
 private:
+    void takeRandomStep(QRandomGenerator& random) const;
     QStringList modelState() const;
+    static QString colors(const QWidget* control);
+    static QString text(const QWidget* control);
 
     QTimer m_watch;
 };
 
-inline bool isResult(const QString& name)
+inline void PageFixture::take(const QString& steps) const
 {
-    return name.startsWith(QLatin1String("m_to")) || name == QLatin1String("m_sclk_lineEdit");
+    for (QString step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const bool commits = step.contains(QLatin1Char('='));
+        const QStringList parts = step.replace(QLatin1Char('~'), QLatin1Char('=')).split(QLatin1Char('='));
+        if (auto* radio =
+                page->findChild<QRadioButton*>(QLatin1String("m_") + step + QLatin1String("_RadioButton"))) {
+            click(step + QLatin1String("_RadioButton"));
+            if (!radio->isChecked())
+                qFatal("%s took no click", qPrintable(step));
+        } else if (parts.first().endsWith(QLatin1String("_lineEdit"))) {
+            click(parts.first());
+            find<QLineEdit>(parts.first())->selectAll();
+            QTest::keyClick(viewport(), Qt::Key_Delete);
+            QTest::keyClicks(viewport(), parts.last());
+            if (commits)
+                QTest::keyClick(viewport(), Qt::Key_Return);
+        } else {
+            auto* combo = find<QComboBox>(parts.first() + QLatin1String("_ComboBox"));
+            const QString item = QString(parts.last()).replace(QLatin1Char('_'), QLatin1Char(' '));
+            int index = combo->count() - 1;
+            while (index >= 0 && combo->itemText(index).trimmed() != item)
+                --index;
+            if (index < 0 || !combo->isEnabled())
+                qFatal("%s cannot be taken", qPrintable(step));
+            combo->setCurrentIndex(index);
+        }
+    }
 }
 
-/// Everything that a user can see or set, one line per control, and every field of the model. Left out is
-/// what may tell of earlier states: the texts of hidden or grey labels, that of a grey RTC output, the
-/// frequencies of a PLL and a USB that are not in use.
+inline QString PageFixture::text(const QWidget* control)
+{
+    const auto* combo = qobject_cast<const QComboBox*>(control);
+    return combo ? combo->currentText().trimmed() : control->property("text").toString();
+}
+
+inline QString PageFixture::colors(const QWidget* control)
+{
+    const bool label = qobject_cast<const QLabel*>(control);
+    const QColor color = control->palette().color(label ? QPalette::WindowText : QPalette::Text);
+    const QString sheet = control->styleSheet();
+    return QLatin1String(color == Qt::red         ? " red"
+                         : color == Qt::darkGreen ? " darkGreen"
+                         : color == Qt::gray      ? " gray"
+                                                  : " black") +
+           QLatin1String(sheet.contains(QLatin1String("rgb(152, 251, 152)"))   ? " green"
+                         : sheet.contains(QLatin1String("rgb(255, 255, 225)")) ? " pale"
+                         : sheet.contains(QLatin1String("rgb(255, 255, 255)")) ? " white"
+                                                                               : "");
+}
+
+inline QString PageFixture::shows(const QString& expected) const
+{
+    QStringList shown;
+    for (const QString& each : expected.split(QLatin1String("; "))) {
+        QString name = each.section(QLatin1Char(':'), 0, 0);
+        const QStringList fields = modelState().filter(
+            QRegularExpression(QStringLiteral("^%1 ").arg(name.section(QLatin1Char('?'), 0, 0))));
+        const QWidget* control = fields.isEmpty() ? find(QString(name).remove(QLatin1Char('?'))) : nullptr;
+        shown += name + QLatin1String(": ") +
+                 (control ? text(control) : fields.first().section(QLatin1Char(' '), 1)) +
+                 (name.endsWith(QLatin1Char('?')) ? colors(control) : QString());
+    }
+    return shown.join(QLatin1String("; "));
+}
+
 inline QStringList PageFixture::state() const
 {
     QStringList lines;
-    for (const QWidget* control : page->findChildren<QWidget*>()) {
+    for (const QWidget* control : controls()) {
         const QString name = control->objectName();
-        const auto line = [&](const QString& value) {
-            lines += name + (control->isEnabled() ? QLatin1String(": ") : QLatin1String(" (off): ")) + value;
-        };
         const auto* edit = qobject_cast<const QLineEdit*>(control);
-        if (!name.startsWith(QLatin1String("m_")))
-            continue;
-        if (edit && name == QLatin1String("m_hext_lineEdit"))
-            line(QString::number(edit->text().toDouble()));
-        else if (edit && (edit->isEnabled() || name != QLatin1String("m_tortc_lineEdit")))
-            line(edit->text() + QLatin1Char(' ') +
-                 (isResult(name) ? edit->palette().color(QPalette::Text).name() : QString()));
-        else if (const auto* combo = qobject_cast<const QComboBox*>(control))
-            line(QString::number(combo->currentIndex()) + combo->currentText());
-        else if (const auto* radio = qobject_cast<const QRadioButton*>(control))
-            line(radio->isChecked() ? QStringLiteral("checked") : QString());
-        else if (const auto* label = qobject_cast<const QLabel*>(control))
-            line(label->isHidden() || !label->isEnabled() ? QString() : label->text());
-        else
-            line(control->isHidden() ? QStringLiteral("hidden") : QString());
+        const auto* radio = qobject_cast<const QRadioButton*>(control);
+        QString value = text(control);
+        if (const auto* combo = qobject_cast<const QComboBox*>(control))
+            value.prepend(QString::number(combo->currentIndex()));
+        else if (radio)
+            value = QLatin1String(radio->isChecked() ? "checked" : "");
+        else if (edit && name == QLatin1String("m_hext_lineEdit"))
+            value = QString::number(value.toDouble());
+        else if (edit && name.startsWith(QLatin1String("m_to")))
+            value = edit->isEnabled() ? value + colors(edit) : QString();
+        else if (!edit && (control->isHidden() || !control->isEnabled()))
+            value = QLatin1String(control->isWindow() ? "hidden" : "");
+        lines += name.mid(2) + QLatin1String(control->isEnabled() ? ": " : " (off): ") + value;
     }
     lines.sort();
     return lines + modelState();
@@ -161,7 +175,7 @@ inline QStringList PageFixture::state() const
 inline QStringList PageFixture::modelState() const
 {
     const ZN64ConfigCLK& model = page->model();
-#define FIELD(name) QStringLiteral(#name " %1").arg(static_cast<double>(model.Get_##name()), 0, 'g', 17)
+#define FIELD(name) QStringLiteral(#name " %1").arg(static_cast<double>(model.Get_##name()), 0, 'g', 15)
     // clang-format off
     QStringList lines{
         FIELD(Hext_Input_Value), FIELD(Lext_Bypass_Value), FIELD(Hext_Bypass_Value), FIELD(RTCSEL),
@@ -191,40 +205,42 @@ inline QStringList PageFixture::modelState() const
     return lines;
 }
 
-/// One random choice of those that the page offers at present. Questions are agreed to.
-inline void PageFixture::takeRandomStep(QRandomGenerator& random) const
+inline void PageFixture::takeRandomSteps(int count, QRandomGenerator& random) const
 {
     const DialogAnswers::Answer agree = [](QDialog* box) {
         static_cast<QMessageBox*>(box)->defaultButton()->click();
     };
-    DialogAnswers answers{agree, agree, agree, agree, agree, agree};
-    QList<QWidget*> choices;
-    for (QWidget* control : page->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^m_"))))
-        if (control->isEnabled() && control->isVisible() && !control->property("readOnly").toBool())
-            choices += control;
-    for (;;) {
-        QWidget* choice = choices.at(random.bounded(choices.size()));
-        if (auto* combo = qobject_cast<QComboBox*>(choice))
-            return combo->setCurrentIndex(random.bounded(combo->count()));
-        if (auto* radio = qobject_cast<QRadioButton*>(choice))
-            return radio->click();
-        auto* edit = qobject_cast<QLineEdit*>(choice);
-        if (!edit)
-            continue;
-        const QString name = edit->objectName();
-        const int tenths = random.bounded(40, 251);
-        edit->setText(name == QLatin1String("m_pllms_lineEdit")   ? QString::number(random.bounded(1, 16))
-                      : name == QLatin1String("m_pllns_lineEdit") ? QString::number(random.bounded(31, 501))
-                      : name == QLatin1String("m_hext_lineEdit")
-                          ? QString::number(tenths / 10.0)
-                          : QString::number(tenths / 250.0 * page->model().GetSYSCLKValidMaxValue(), 'f', 3));
-        QTest::keyClick(edit, Qt::Key_Return);
-        return;
+    for (int step = 0; step <= count; ++step) {
+        DialogAnswers answers{agree, agree, agree, agree, agree, agree};
+        step < count ? takeRandomStep(random) : page->UpdateCalculateResult();
     }
 }
 
-/// A row for every series that has a page.
-inline void seriesRows()
+inline void PageFixture::takeRandomStep(QRandomGenerator& random) const
+{
+    QList<QWidget*> choices;
+    for (QWidget* each : controls())
+        if (each->isEnabled() && each->isVisible() && !each->property("readOnly").toBool() &&
+            !each->isWindow() && !qobject_cast<QLabel*>(each) && !qobject_cast<QPushButton*>(each))
+            choices += each;
+    QWidget* choice = choices.at(random.bounded(choices.size()));
+    if (auto* combo = qobject_cast<QComboBox*>(choice))
+        return combo->setCurrentIndex(random.bounded(combo->count()));
+    if (auto* radio = qobject_cast<QRadioButton*>(choice))
+        return radio->click();
+    const QString name = choice->objectName();
+    const int tenths = random.bounded(40, 251);
+    static_cast<QLineEdit*>(choice)->setText(
+        name == QLatin1String("m_pllms_lineEdit")   ? QString::number(random.bounded(1, 16))
+        : name == QLatin1String("m_pllns_lineEdit") ? QString::number(random.bounded(31, 501))
+        : name == QLatin1String("m_hext_lineEdit")
+            ? QString::number(tenths / 10.0)
+            : QString::number(tenths / 250.0 * page->model().GetSYSCLKValidMaxValue(), 'f', 3));
+    QTest::keyClick(choice, Qt::Key_Return);
+}
+
+/// The words of all series that have a page, as a column.
+inline void pageRows()
 {
     QTest::addColumn<QString>("word");
     for (const SeriesTraits& traits : seriesList())
@@ -232,22 +248,35 @@ inline void seriesRows()
             QTest::newRow(traits.word) << QString::fromLatin1(traits.word);
 }
 
-/// Whether the row's series, the first word of its name, has a page yet.
 inline bool hasPage(const QString& word)
 {
     const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + word);
     return traits && hasSeriesPage(traits->series);
 }
 
+/// A row per line, its fields between bars. The first field is one series or several, which get a row each;
+/// "*" stands for all. Series without a page are left out until they have one.
+inline void rows(std::initializer_list<const char*> lines)
+{
+    QTest::addColumn<QStringList>("fields");
+    for (const char* line : lines) {
+        QStringList fields;
+        for (const QString& field : QString::fromUtf8(line).split(QLatin1Char('|')))
+            fields += field.trimmed();
+        QStringList words = fields.takeFirst().split(QLatin1Char(' '));
+        if (words.first() == QLatin1String("*")) {
+            words.clear();
+            for (const SeriesTraits& traits : seriesList())
+                words += QLatin1String(traits.word);
+        }
+        for (const QString& word : words)
+            if (hasPage(word))
+                QTest::addRow("%s: %s", qPrintable(word), qPrintable(fields.join(QLatin1String(" | "))))
+                    << (QStringList(word) + fields);
+    }
+}
+
 inline QString errorBox(const QString& text)
 {
     return QStringLiteral("critical | Error | %1 | Ok").arg(text);
-}
-inline QString errorBox(const char* text)
-{
-    return errorBox(QString::fromLatin1(text));
-}
-inline QString warningBox(const char* text)
-{
-    return QStringLiteral("warning | Warning | %1 | Cancel, Yes").arg(QLatin1String(text));
 }

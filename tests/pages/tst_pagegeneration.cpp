@@ -20,7 +20,7 @@ public slots:
 private slots:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init();
-    void firstRunAsksNothing_data() { seriesRows(); }
+    void firstRunAsksNothing_data() { pageRows(); }
     void firstRunAsksNothing();
     void conflicts_data();
     void conflicts();
@@ -36,7 +36,8 @@ private:
     /// The names of the files that no longer hold "old".
     QString replaced(const QString& folder) const;
     DialogAnswers::Answer answer(const QString& word);
-    bool generate(const PageFixture& page, const QStringList& presses, QStringList& shown);
+    /// The answers are words of answer(), behind the one that chooses the folder.
+    bool generate(const PageFixture& page, const QString& words, QStringList& shown);
 
     QScopedPointer<QTemporaryDir> m_folder;
     QStringList m_opened;
@@ -90,24 +91,24 @@ QString TestPageGeneration::replaced(const QString& folder) const
     for (const QString& file : files)
         if (read(folder + QLatin1Char('/') + file) != "old")
             names += file.section(QLatin1Char('/'), 1).remove(QStringLiteral("zn64g110_"));
-    return names.join(QLatin1Char(' '));
+    return names.join(QStringLiteral(", "));
 }
 
-/// Presses a button, or acts on a conflict box: "yes", "ticked", "unticked" (all press Yes), "no" (ticks and
-/// presses Cancel), "x" closes it.
+/// Presses the button of the word, with "_" for a blank, or acts on a conflict box: "yes", "ticked",
+/// "unticked" (all press Yes), "no" (ticks and presses Cancel), "x" (closes it).
 DialogAnswers::Answer TestPageGeneration::answer(const QString& word)
 {
     return [this, word](QDialog* box) {
-        if (qobject_cast<QFileDialog*>(box))
-            return DialogAnswers::choose(m_folder->path())(box);
         auto* tick = box->findChild<QCheckBox*>();
         if (!tick)
-            return DialogAnswers::press(word.toLatin1().constData())(box);
+            return DialogAnswers::press(
+                QString(word).replace(QLatin1Char('_'), QLatin1Char(' ')).toLatin1().constData())(box);
         QString question;
         for (const QLabel* label : box->findChildren<QLabel*>())
             question += label->text();
-        m_asked += question.remove(QStringLiteral(" file already exists.Do you want to replace it ? ")) +
-                   (tick->isChecked() ? QLatin1String(" ticked") : QLatin1String());
+        m_asked += question.remove(QStringLiteral(" file already exists.Do you want to replace it ? "))
+                       .remove(QStringLiteral("zn64g110_")) +
+                   QLatin1String(tick->isChecked() ? " ticked" : "");
         if (tick->text() != QLatin1String("Do this for the next conflicts"))
             m_asked += tick->text();
         if (word != QLatin1String("yes"))
@@ -118,10 +119,11 @@ DialogAnswers::Answer TestPageGeneration::answer(const QString& word)
     };
 }
 
-bool TestPageGeneration::generate(const PageFixture& page, const QStringList& presses, QStringList& shown)
+bool TestPageGeneration::generate(const PageFixture& page, const QString& words, QStringList& shown)
 {
-    const auto at = [&](int i) { return answer(presses.value(i)); };
-    DialogAnswers answers{at(-1), at(0), at(1), at(2), at(3), at(4)};
+    DialogAnswers answers{DialogAnswers::choose(m_folder->path())};
+    for (const QString& word : words.split(QLatin1Char(' ')))
+        answers.add(answer(word));
     page.page->Set_GenerateCodeMode(MODE_USER_BUTTON);
     const bool done = page.page->GenerateCode();
     shown = answers.shown();
@@ -136,7 +138,7 @@ void TestPageGeneration::firstRunAsksNothing()
     const QString stem = QString::fromLatin1(page.page->description().stem);
     QStringList shown;
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeUrl");
-    QVERIFY(generate(page, {QStringLiteral(" Open Folder  ")}, shown));
+    QVERIFY(generate(page, QStringLiteral("_Open_Folder__"), shown));
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     QCOMPARE(shown, QStringList({QStringLiteral("Select directory"), finished(stem)}));
     QCOMPARE(m_opened, QStringList(m_folder->path()));
@@ -150,50 +152,44 @@ void TestPageGeneration::firstRunAsksNothing()
 
 void TestPageGeneration::conflicts_data()
 {
-    QTest::addColumn<QString>("presses");
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* presses, const char* asked, const char* expected) {
-        QTest::newRow(presses) << QString::fromLatin1(presses) << QString::fromLatin1(asked)
-                               << QString::fromLatin1(expected);
-    };
-    const char all[] = "clock.c clock.h main.c conf.h";
-    row("yes yes yes yes OK", "clock.c, clock.h, main.c, conf.h", all);
-    row("ticked OK", "clock.c", all);
-    row("yes ticked OK", "clock.c, clock.h", all);
-    row("yes yes ticked OK", "clock.c, clock.h, main.c", all);
-    row("no OK", "clock.c", "");
-    row("x OK", "clock.c", "");
-    row("yes no OK", "clock.c, clock.h", "clock.c");
-    row("yes yes no OK", "clock.c, clock.h, main.c", "clock.c clock.h");
-    row("yes yes yes x OK", "clock.c, clock.h, main.c, conf.h", "clock.c clock.h main.c");
+    // Presses, the files asked about, the files replaced.
+    rows({
+        "G110 | yes yes yes yes OK | clock.c, clock.h, main.c, conf.h | clock.c, clock.h, main.c, conf.h",
+        "G110 | ticked OK | clock.c | clock.c, clock.h, main.c, conf.h",
+        "G110 | yes ticked OK | clock.c, clock.h | clock.c, clock.h, main.c, conf.h",
+        "G110 | yes yes ticked OK | clock.c, clock.h, main.c | clock.c, clock.h, main.c, conf.h",
+        "G110 | no OK | clock.c |",
+        "G110 | x OK | clock.c |",
+        "G110 | yes no OK | clock.c, clock.h | clock.c",
+        "G110 | yes yes no OK | clock.c, clock.h, main.c | clock.c, clock.h",
+        "G110 | yes yes yes x OK | clock.c, clock.h, main.c, conf.h | clock.c, clock.h, main.c",
+    });
 }
 
 void TestPageGeneration::conflicts()
 {
-    QFETCH(QString, presses);
-    QFETCH(QString, expected);
-    const PageFixture page(ZN64G110);
+    QFETCH(QStringList, fields);
+    const PageFixture page(fields.at(0));
     putOldFiles(m_folder->path());
     QStringList shown;
-    const bool done = generate(page, presses.split(QLatin1Char(' ')), shown);
-    QCOMPARE(done, expected.endsWith(QStringLiteral("conf.h")));
+    const bool done = generate(page, fields.at(1), shown);
+    QCOMPARE(done, fields.at(3).endsWith(QStringLiteral("conf.h")));
     QCOMPARE(shown, QStringList({QStringLiteral("Select directory"),
                                  done ? finished(QStringLiteral("zn64g110")) : QString::fromLatin1(failed)}));
-    QTEST(m_asked.join(QStringLiteral(", ")).remove(QStringLiteral("zn64g110_")), "asked");
-    QCOMPARE(replaced(m_folder->path()), expected);
+    QCOMPARE(m_asked.join(QStringLiteral(", ")), fields.at(2));
+    QCOMPARE(replaced(m_folder->path()), fields.at(3));
     QCOMPARE(m_opened, QStringList());
 }
 
 void TestPageGeneration::tickedAnswerOutlivesTheRun()
 {
-    const PageFixture page(ZN64G110);
+    const PageFixture page(QStringLiteral("G110"));
     const auto asked = [&](const char* presses) {
         m_asked.clear();
         QStringList shown;
         putOldFiles(m_folder->path());
-        generate(page, QString::fromLatin1(presses).split(QLatin1Char(' ')), shown);
-        return m_asked.join(QStringLiteral(", ")).remove(QStringLiteral("zn64g110_"));
+        generate(page, QString::fromLatin1(presses), shown);
+        return m_asked.join(QStringLiteral(", "));
     };
     QCOMPARE(asked("ticked OK"), QStringLiteral("clock.c"));
     QCOMPARE(asked("yes OK"), QStringLiteral("clock.c ticked"));
@@ -205,57 +201,51 @@ void TestPageGeneration::tickedAnswerOutlivesTheRun()
 
 void TestPageGeneration::whatIsInTheWay_data()
 {
-    QTest::addColumn<QString>("obstacle");
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const char* obstacle, const QString& error, const char* expected) {
-        QTest::newRow(name) << QString::fromLatin1(obstacle) << error << QString::fromLatin1(expected);
-    };
-    // A link to nowhere: nothing is there, and no folder can be made there.
-    row("link for inc", "inc -> nowhere/x", errorBox("Creating \"inc\" folder error!"), "");
-    row("link for src", "src -> nowhere/x", errorBox("Creating \"src\" folder error!"), "");
-    row("file for src", "src", QLatin1String(failed), "");
-    row("file for inc", "inc", QLatin1String(failed), "src/zn64g110_clock.c");
-    row("folder for main.c", "src/main.c/", QLatin1String(failed),
-        "src/zn64g110_clock.c inc/zn64g110_clock.h");
+    // A link to nowhere (no folder can be made there), a file or a folder; the folder that is told, if any;
+    // what is written all the same.
+    rows({
+        "G110 | inc -> nowhere/x | inc |",
+        "G110 | src -> nowhere/x | src |",
+        "G110 | src | |",
+        "G110 | inc | | src/zn64g110_clock.c",
+        "G110 | src/main.c/ | | src/zn64g110_clock.c inc/zn64g110_clock.h",
+    });
 }
 
 void TestPageGeneration::whatIsInTheWay()
 {
-    QFETCH(QString, obstacle);
-    QFETCH(QString, error);
-    QFETCH(QString, expected);
-    const QStringList link = obstacle.split(QStringLiteral(" -> "));
+    QFETCH(QStringList, fields);
+    const QStringList link = fields.at(1).split(QStringLiteral(" -> "));
+    const QString obstacle = path(link.first());
     if (link.size() == 2)
-        QVERIFY(QFile::link(path(link.last()), path(link.first())));
+        QVERIFY(QFile::link(path(link.last()), obstacle));
     else
-        QVERIFY(obstacle.endsWith(QLatin1Char('/')) ? QDir().mkpath(path(obstacle))
-                                                    : write(path(obstacle), "x"));
-    const PageFixture page(ZN64G110);
+        QVERIFY(obstacle.endsWith(QLatin1Char('/')) ? QDir().mkpath(obstacle) : write(obstacle, "x"));
+    const QString error = fields.at(2).isEmpty()
+                              ? QString::fromLatin1(failed)
+                              : errorBox(QStringLiteral("Creating \"%1\" folder error!").arg(fields.at(2)));
+    const PageFixture page(fields.at(0));
     QStringList shown;
-    QVERIFY(!generate(
-        page,
-        {obstacle.endsWith(QLatin1Char('/')) ? QStringLiteral("yes") : error.section(QLatin1Char(' '), -1),
-         QStringLiteral("OK")},
-        shown));
+    const QString conflict = obstacle.endsWith(QLatin1Char('/')) ? QStringLiteral("yes ") : QString();
+    QVERIFY(!generate(page, conflict + error.section(QLatin1Char(' '), -1), shown));
     QCOMPARE(shown, QStringList({QStringLiteral("Select directory"), error}));
     QStringList written;
     for (const QString& file : files)
         if (QFileInfo(path(file)).isFile())
             written += file;
-    QCOMPARE(written.join(QLatin1Char(' ')), expected);
+    QCOMPARE(written.join(QLatin1Char(' ')), fields.at(3));
 }
 
 void TestPageGeneration::codeViewAsksNothing()
 {
     const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/Code_Sample");
-    const PageFixture page(ZN64G110);
+    const PageFixture page(QStringLiteral("G110"));
     putOldFiles(folder);
     DialogAnswers answers{};
     page.page->Set_GenerateCodeMode(MODE_CODE_VIEW);
     QVERIFY(page.page->GenerateCode());
     QCOMPARE(answers.shown(), QStringList());
-    QCOMPARE(replaced(folder), QStringLiteral("clock.c clock.h main.c conf.h"));
+    QCOMPARE(replaced(folder), QStringLiteral("clock.c, clock.h, main.c, conf.h"));
 }
 
 QTEST_MAIN(TestPageGeneration)

@@ -1,0 +1,358 @@
+#include "pagefixture.h"
+
+// What the page shows behind a row of steps, and which boxes came up on the way.
+
+class TestEdits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void frequencies_data();
+    void frequencies() { run(); }
+    void hext_data();
+    void hext() { run(); }
+    void sysclk_data();
+    void sysclk() { run(); }
+    void pllParameters_data();
+    void pllParameters() { run(); }
+    void buses_data();
+    void buses() { run(); }
+    void usbAndRtc_data();
+    void usbAndRtc() { run(); }
+    void clockOutputs_data();
+    void clockOutputs() { run(); }
+    void settingASelectorByProgram();
+    void paintsByTheModel();
+
+private:
+    void run();
+};
+
+namespace {
+
+// The fields of a row: series, steps, boxes each with the button that is pressed, what shows in the end.
+const QHash<QString, QString> boxes{
+    {QStringLiteral("hext"),  errorBox(QStringLiteral("hext input error!"))                        },
+    {QStringLiteral("sclk"),  errorBox(QStringLiteral("sclk input error!"))                        },
+    {QStringLiteral("input"), errorBox(QStringLiteral("pll input clock source range 2-16MHz!"))    },
+    {QStringLiteral("ms"),    errorBox(QStringLiteral("pll_ms input error!"))                      },
+    {QStringLiteral("ns"),    errorBox(QStringLiteral("pll_ns input error!"))                      },
+    {QStringLiteral("ms?"),
+     QStringLiteral("question | Warning | pll_ms input error, is it adjusted automatically?\nThe following "
+                    "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz | Cancel, Yes")  },
+    {QStringLiteral("ns?"),
+     QStringLiteral(
+         "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following "
+         "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1200MHz | Cancel, Yes")},
+};
+
+} // namespace
+
+void TestEdits::run()
+{
+    QFETCH(QStringList, fields);
+    const PageFixture page(fields.at(0));
+    DialogAnswers answers;
+    QStringList expectedBoxes;
+    for (const QString& box : fields.at(2).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        expectedBoxes += boxes.value(box.section(QLatin1Char(':'), 0, 0));
+        answers.add(DialogAnswers::press(box.section(QLatin1Char(':'), 1).toLatin1().constData()));
+    }
+    page.take(fields.at(1));
+    QCOMPARE(answers.shown(), expectedBoxes);
+    QCOMPARE(page.shows(fields.at(3)).trimmed(), fields.at(3));
+}
+
+void TestEdits::frequencies_data()
+{
+    rows({
+        "G110 | | | sclk_lineEdit?: 192.000 darkGreen green; toi2s_lineEdit: 192.000; tosystick_lineEdit: "
+        "24.000",
+        "G110 | | | toapb1peripheral_lineEdit?: 96.000 darkGreen; apb1div_ComboBox: /2; toapb1tmr_mul: * 2",
+        "G110 | | | toapb1tmr_lineEdit: 192.000; toadc_lineEdit?: 0.000 gray; pllclk_Label?: 192.000MHz "
+        "darkGreen",
+        "G110R G114 | | | sclk_lineEdit: 240.000; toapb1peripheral_lineEdit: 120.000; pllclk_Label: "
+        "240.000MHz",
+        "H110R G120 | | | sclk_lineEdit: 200.000; toapb2peripheral_lineEdit: 100.000; pllclk_Label: "
+        "200.000MHz",
+        "G125 TQ125 | | | sclk_lineEdit: 144.000; toapb2peripheral_lineEdit: 72.000; pllclk_Label: "
+        "144.000MHz",
+        "G130 | | | sclk_lineEdit: 120.000; toapb1peripheral_lineEdit: 120.000; pllclk_Label: 120.000MHz",
+        "G135 | | | sclk_lineEdit: 96.000; toapb1peripheral_lineEdit: 96.000; pllclk_Label: 96.000MHz",
+        "D042 | | | sclk_lineEdit: 80.000; toapb1peripheral_lineEdit: 80.000; pllclk_Label: 80.000MHz",
+        "G142 G146 | | | sclk_lineEdit: 200.000; toapb1peripheral_lineEdit: 200.000; pllclk_Label: "
+        "200.000MHz",
+        "G133 H133 | | | sclk_lineEdit: 150.000; toapb1peripheral_lineEdit: 75.000; pllclk_Label: 300.000MHz",
+        "G150 G152 | | | sclk_lineEdit: 288.000; toadc_lineEdit?: 288.000 darkGreen; pllclk_Label?: "
+        "288.000MHz darkGreen",
+        "G150 G152 | | | toapb2peripheral_lineEdit?: 144.000 darkGreen; pllCFG_Value_lineEdit: 0x00422401",
+        "G171 G174 G190 | | | sclk_lineEdit: 216.000; toapb1peripheral_lineEdit: 108.000; "
+        "toapb2peripheral_lineEdit: 216.000",
+        "G165 G166 G167 | | | sclk_lineEdit: 192.000; toapb1peripheral_lineEdit: 192.000; pllclk_Label: "
+        "192.000MHz",
+        "P212 P216 | | | sclk_lineEdit: 180.000; toapb1peripheral_lineEdit: 180.000; pllclk_Label: "
+        "180.000MHz",
+    });
+}
+
+void TestEdits::hext_data()
+{
+    rows({
+        // A bad text colours at once; Return tells, and changes nothing.
+        "* | hext_lineEdit~.. | | hext_lineEdit?: .. red pale",
+        "* | hext_lineEdit=.. | hext:Ok | hext_lineEdit?: .. red pale",
+        "* | hext_lineEdit=1.2.3 | hext:Ok | hext_lineEdit?: 1.2.3 red pale",
+        "* | hext_lineEdit=0 | hext:Ok | hext_lineEdit?: 0 red pale",
+        "* | hext_lineEdit=3.99999 | hext:Ok | hext_lineEdit?: 3.99999 red pale",
+        "* | hext_lineEdit=25.001 | hext:Ok | hext_lineEdit?: 25.001 red pale",
+        "* | hext_lineEdit=99999999 | hext:Ok | hext_lineEdit?: 99999999 red pale",
+        "G110 | hext_lineEdit=3 | hext:Ok | Hext_Input_Value: 8; sclk_lineEdit: 192.000; PLL_MUL: 24",
+        "G110 | hext_lineEdit=3 hext_lineEdit~8.0 | hext:Ok | hext_lineEdit?: 8.0 black green",
+        "G110 | hext_lineEdit~8.00001 | | hext_lineEdit?: 8.00001 black pale; sclk_lineEdit: 192.000",
+        "G110 | hext_lineEdit=4 | | hext_lineEdit?: 4 black green; sclk_lineEdit: 96.000; todma_lineEdit: "
+        "96.000",
+        "G150 | hext_lineEdit=7 | | hext_lineEdit?: 7 black green; sclk_lineEdit: 252.000",
+        "G110 | hext_lineEdit~3 sclkselect_hick ahbdiv=/2 | | todma_lineEdit: 4.000",
+        "G110 | hext_lineEdit~3 ahbdiv=/2 | hext:Ok | todma_lineEdit: 192.000; AHBDIV: 2",
+        // The PLL's input is corrected to 16 MHz, whatever brings it above.
+        "G110 G120 | hext_lineEdit=25 | input:Ok | hext_lineEdit?: 16.000 black green; Hext_Input_Value: 16",
+        "G110 | sclkselect_hext hext_lineEdit=25 | | sclk_lineEdit: 25.000; Hext_Input_Value: 25",
+        "G110 | sclkselect_hext hext_lineEdit=25 sclkselect_pll | input:Ok | hext_lineEdit?: 16.000 black "
+        "green",
+        "G110 | pllhext_div hext_lineEdit=25 sclk_lineEdit=100 | | sclk_lineEdit: 100.000; Hext_Input_Value: "
+        "25",
+        "G110 | pllhext_div hext_lineEdit=25 sclk_lineEdit=100 pllhext_nodiv | input:Ok | sclk_lineEdit: "
+        "64.000; PLL_MUL: 4",
+        "G110 | pllrcs_hick sclkselect_hext hext_lineEdit=25 sclkselect_pll pllrcs_hext | input:Ok | "
+        "Hext_Input_Value: 16",
+        "G110 | hext_lineEdit=16 | | sclk_lineEdit?: 384.000 red green; pllclk_Label?: 384.000MHz red",
+    });
+}
+
+void TestEdits::sysclk_data()
+{
+    rows({
+        "G110 | sclk_lineEdit~200 | | sclk_lineEdit?: 200 darkGreen pale; todma_lineEdit: 192.000",
+        "G110 | sclk_lineEdit=200 | | sclk_lineEdit?: 200.000 darkGreen green; todma_lineEdit?: 200.000 "
+        "darkGreen; PLL_MUL: 25",
+        "G110 | sclk_lineEdit=100 | | sclk_lineEdit: 104.000; pllmult_ComboBox: * 13",
+        "G110 | sclk_lineEdit=99.999 | | sclk_lineEdit: 96.000; pllmult_ComboBox: * 12",
+        "G110 | sclk_lineEdit=4 | | sclk_lineEdit: 16.000; pllclk_Label: 16.000MHz",
+        "G110 | pllrcs_hick sclk_lineEdit=6 | | sclk_lineEdit: 8.000; PLL_MUL: 2",
+        "G110 | sclk_lineEdit~192 | | sclk_lineEdit?: 192 darkGreen green",
+        "G110 | sclk_lineEdit=200.001 | sclk:Ok | sclk_lineEdit?: 200.001 red pale; SYSCLKValue: 192; "
+        "todma_lineEdit: 192.000",
+        "G110 | sclk_lineEdit=3.999 | sclk:Ok | sclk_lineEdit?: 3.999 red pale; SYSCLKValue: 192",
+        "G110 | sclk_lineEdit=1.1.1 | sclk:Ok | sclk_lineEdit?: 1.1.1 red pale; SYSCLKValue: 192",
+        "G110 | hext_lineEdit~3 sclk_lineEdit=100 | hext:Ok | todma_lineEdit: 192.000; PLL_MUL: 24",
+        "G150 G152 | sclk_lineEdit=240 | | sclk_lineEdit: 240.000; toadc_lineEdit: 240.000; pllclk_Label: "
+        "240.000MHz",
+        "G150 | sclk_lineEdit=4 | | sclk_lineEdit: 15.625; pllfr_ComboBox: /32",
+        "G150 | pllrcs_hick sclk_lineEdit=200 | | sclk_lineEdit: 200.000; pllclk_Label: 200.000MHz",
+        "G110R G114 | sclk_lineEdit=240.001 | sclk:Ok | SYSCLKValue: 240",
+        "H110R G120 | sclk_lineEdit=200.001 | sclk:Ok | SYSCLKValue: 200",
+        "G125 TQ125 | sclk_lineEdit=150.001 | sclk:Ok | SYSCLKValue: 144",
+        "G130 | sclk_lineEdit=120.001 | sclk:Ok | SYSCLKValue: 120",
+        "G135 | sclk_lineEdit=96.001 | sclk:Ok | SYSCLKValue: 96",
+        "D042 | sclk_lineEdit=80.001 | sclk:Ok | SYSCLKValue: 80",
+        "G142 G146 | sclk_lineEdit=3.999 | sclk:Ok | SYSCLKValue: 200",
+        "G150 G152 | sclk_lineEdit=288.001 | sclk:Ok | sclk_lineEdit?: 288.001 red pale; SYSCLKValue: 288",
+        "G150 G152 | sclk_lineEdit=3.9 | sclk:Ok | SYSCLKValue: 288",
+        "G133 H133 | sclk_lineEdit=150.001 | sclk:Ok | SYSCLKValue: 150",
+        "G171 G174 G190 | sclk_lineEdit=216.001 | sclk:Ok | SYSCLKValue: 216",
+        "G165 G166 G167 | sclk_lineEdit=192.001 | sclk:Ok | SYSCLKValue: 192",
+        "P212 P216 | sclk_lineEdit=180.001 | sclk:Ok | SYSCLKValue: 180",
+        // A changed source searches for the same clock again.
+        "G110 | pllhext_div | | sclk_lineEdit: 192.000; pllmult_ComboBox: * 48",
+        "G110 | pllrcs_hick | | sclk_lineEdit: 192.000; pllmult_ComboBox: * 48",
+        "G110 | sclkselect_hick | | sclk_lineEdit?: 8.000 darkGreen white; pllclk_Label: ; toi2s_lineEdit: "
+        "8.000",
+        "G150 | sclkselect_hick | | sclk_lineEdit?: 8.000 darkGreen white; pllCFG_Value_lineEdit: ",
+        "G150 | sclkselect_hick hicktosclk | | sclk_lineEdit: 48.000; toadc_lineEdit: 48.000",
+    });
+}
+
+void TestEdits::pllParameters_data()
+{
+    rows({
+        "G150 | pllms_lineEdit~0 | | pllms_lineEdit?: /0 red pale",
+        "G150 | pllms_lineEdit=0 | ms:Ok | pllms_lineEdit?: /0 red pale; PLL_MS: 1",
+        "G150 | pllms_lineEdit=16 | ms:Ok | pllms_lineEdit?: /16 red pale; PLL_MS: 1",
+        "G150 | pllms_lineEdit=/2 | | pllms_lineEdit?: /2 black white; PLL_MS: 2; sclk_lineEdit: 144.000",
+        "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Yes | pllms_lineEdit: /4; pllns_lineEdit: *250; PLL_MS: 4; "
+        "PLL_NS: 250; sclk_lineEdit: 125.000",
+        "G150 | pllms_lineEdit=5 | ms?:Cancel | pllms_lineEdit?: /5 black pale; PLL_MS: 1; sclk_lineEdit: "
+        "288.000",
+        "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Cancel | pllms_lineEdit: /4; PLL_MS: 4; PLL_NS: 144; "
+        "sclk_lineEdit: 288.000",
+        "G150 | hext_lineEdit=25 | ms?:Yes ns?:Yes | pllms_lineEdit: /2; pllns_lineEdit: *96; sclk_lineEdit: "
+        "300.000",
+        "G150 | pllns_lineEdit~72 | | pllns_lineEdit?: *72 black pale; PLL_NS: 144",
+        "G150 | pllns_lineEdit=30 | ns:Ok | pllns_lineEdit?: *30 red pale; PLL_NS: 144",
+        "G150 | pllns_lineEdit=*501 | ns:Ok | pllns_lineEdit?: *501 red pale; PLL_NS: 144",
+        "G150 | pllns_lineEdit=150 | | pllns_lineEdit?: *150 black white; sclk_lineEdit?: 300.000 red green",
+        "G150 | pllns_lineEdit=151 | ns?:Yes | pllns_lineEdit: *150; PLL_NS: 150",
+        "G150 | pllns_lineEdit=62 | ns?:Yes | pllns_lineEdit: *63; sclk_lineEdit: 126.000",
+        "G150 | pllns_lineEdit=62 | ns?:Cancel | pllns_lineEdit: *62; PLL_NS: 144; sclk_lineEdit: 288.000",
+        // A PLL that is not in use may hold anything.
+        "G150 | pllns_lineEdit~501 sclkselect_hick | | pllns_lineEdit: *144; sclk_lineEdit: 8.000",
+        "G150 | pllfr=/32 | | pllCFG_Value_lineEdit: 0x00452401; sclk_lineEdit: 36.000",
+        "G150 | pllrcs_hick | | pllCFG_Value_lineEdit: 0x00022401; sclk_lineEdit: 288.000",
+    });
+}
+
+void TestEdits::buses_data()
+{
+    rows({
+        // A divider is forced up when its bus would pass its limit, and never lowered.
+        "G110 | apb1div=/1 | | apb1div_ComboBox: /2; toapb1peripheral_lineEdit: 96.000; APB1DIV: 2",
+        "G110 | sclk_lineEdit=96 | | apb1div_ComboBox: /2; toapb1peripheral_lineEdit: 48.000; "
+        "toapb1tmr_lineEdit: 96.000",
+        "G110 | sclk_lineEdit=96 apb1div=/1 | | apb1div_ComboBox: /1; toapb1peripheral_lineEdit: 96.000; "
+        "toapb1tmr_mul: * 1",
+        "G110 | pllrcs_hick sclk_lineEdit=100 apb2div=/1 | | apb2div_ComboBox: /1; "
+        "toapb2peripheral_lineEdit?: 100.000 darkGreen",
+        "G110 | pllrcs_hick sclk_lineEdit=100 apb2div=/1 sclk_lineEdit=104 | | apb2div_ComboBox: /2; "
+        "toapb2tmr_lineEdit: 104.000",
+        "G110 | apb1div=/8 sclk_lineEdit=200 | | apb1div_ComboBox: /8; toapb1peripheral_lineEdit: 25.000; "
+        "toapb1tmr_lineEdit: 50.000",
+        "G150 | pllns_lineEdit=72 apb1div=/1 | | apb1div_ComboBox: /1; toapb1peripheral_lineEdit?: 144.000 "
+        "darkGreen",
+        "G110 | ahbdiv=/64 | | tosystick_lineEdit: 0.375; todma_lineEdit: 3.000; toi2s_lineEdit: 192.000",
+        "G110 | pllmult=*_10 | | sclk_lineEdit: 80.000; PLL_MUL: 10",
+        // Red above the limit.
+        "G110 | hext_lineEdit=8.334 | | sclk_lineEdit?: 200.016 red green; todma_lineEdit?: 200.016 red; "
+        "toapb2tmr_lineEdit?: 200.016 red",
+        "G110 | hext_lineEdit=8.334 | | toapb1peripheral_lineEdit?: 100.008 red; tosystick_lineEdit?: 25.002 "
+        "red",
+        "G110 | hext_lineEdit=8.334 ahbdiv=/2 | | toi2s_lineEdit?: 200.016 red; todma_lineEdit?: 100.008 "
+        "darkGreen",
+        "G150 | pllns_lineEdit=145 | | toadc_lineEdit?: 290.000 red; toapb1peripheral_lineEdit?: 145.000 "
+        "red; pllclk_Label?: 290.000MHz red",
+        "G110 | sclk_lineEdit=112 toadcswitch=enable | | toadc_lineEdit?: 28.000 darkGreen",
+        "G110 | sclk_lineEdit=120 toadcswitch=enable | | toadc_lineEdit?: 30.000 red",
+        "G110 | sclk_lineEdit=120 toadcswitch=enable toadcdiv=/12 | | toadc_lineEdit?: 5.000 darkGreen; "
+        "ToADCDIV: 12",
+        "G110 | toadcswitch=enable toadcswitch=disable | | toadc_lineEdit?: 0.000 gray; ToADC_Switch: 0",
+    });
+}
+
+void TestEdits::usbAndRtc_data()
+{
+    rows({
+        "G110 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; usbdiv_ComboBox: /4",
+        "G110 | tousbswitch=enable usbdiv=/3.5 | | usbclock_Label?: 54.857 MHz red; sclk_lineEdit: 192.000",
+        "G110 | tousbswitch=enable sclk_lineEdit=72 | | usbclock_Label?: 48.000 MHz darkGreen; "
+        "usbdiv_ComboBox: /1.5",
+        "G110 | sclkselect_hick tousbswitch=enable usbdiv=/1.5 | | usbclock_Label: 48.000 MHz; "
+        "pllmult_ComboBox: * 9",
+        "G110 | sclkselect_hick tousbswitch=enable pllrcs_hick usbdiv=/3 | | pllmult_ComboBox: * 36; "
+        "usbclock_Label: 48.000 MHz",
+        "G110 | sclkselect_hick tousbswitch=enable hext_lineEdit=12 | | pllmult_ComboBox: * 16; "
+        "usbclock_Label: 48.000 MHz",
+        "G150 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; usbdiv_ComboBox: /6; "
+        "sclk_lineEdit: 288.000",
+        "G150 | tousbswitch=enable sclk_lineEdit=168 | | usbclock_Label: 48.000 MHz; usbdiv_ComboBox: /3.5",
+        "G150 | tousbswitch=enable usbdiv=/5 tousb_hick | | usbclock_Label?: 48.000 MHz darkGreen; "
+        "HICK_TO_USB: 1",
+        "G150 | sclkselect_hick tousbswitch=enable usbdiv=/2.5 | | usbclock_Label: 48.000 MHz; pllclk_Label: "
+        "120.000MHz",
+        "G110 | tortc=enable | | tortc_lineEdit?: 40 darkGreen; ToRTC_Switch: 1",
+        "G110 | tortc=enable rtcsel_lext | | tortc_lineEdit: 32.768; RTCSEL: 1",
+        "G110 | tortc=enable rtcsel_hext hext_lineEdit=10 | | tortc_lineEdit: 78.125",
+        "G110 | tortc=enable rtcsel_hext tortc=disable | | tortc_lineEdit?: 0 gray",
+        // Told by the commit and by the output that needs it.
+        "G110 | hext_lineEdit~3 sclkselect_hick tortc=enable rtcsel_hext | hext:Ok hext:Ok | tortc_lineEdit: "
+        "0; Hext_Input_Value: 8",
+        "G150 | tortc=enable rtcsel_hext | | tortc_lineEdit: 4000.000",
+        "G150 | tortc=enable rtcsel_hext rtcdiv=/31 | | tortc_lineEdit: 258.065; RTC_DIV: 31",
+    });
+}
+
+void TestEdits::clockOutputs_data()
+{
+    rows({
+        "G110 | clockoutpin=PA8 clockout_hick | | clockout_hick_QLabel: (8.000 MHz); clockout_Value_QLabel?: "
+        "(8.000 MHz) darkGreen",
+        "G110 | clockoutpin=PA8 clockout_hick clockout_noclk | | clockout_Value_QLabel: ; CLKOUT: 0",
+        "G110 | clockoutpin=PA8 clockout_hext hext_lineEdit=10 | | clockout_Value_QLabel: (10.000 MHz)",
+        "G110 | clockoutpin=PA8 clockout_sclk clockoutpin=none sclkselect_hick | | clockout_Value_QLabel: "
+        "(192.000 MHz)",
+        "G110 | clockoutpin=PA8 tousbswitch=enable clockout_usb | | clockout_usb_QLabel: (48.000 MHz); "
+        "CLKOUT: 6",
+        "G110 | clockoutpin=PA8 toadcswitch=enable toadcdiv=/6 clockout_adcclk | | clockout_Value_QLabel: "
+        "(16.000 MHz)",
+        "G110 | clockoutpin=PA8 clockout_plldiv2 | | clockout_plldiv2_QLabel: (96.000 MHz); "
+        "CLKOUT_PinSelect: 1",
+        "G110 | clockoutpin=PA8 clockout_plldiv4 | | clockout_Value_QLabel: (48.000 MHz)",
+        "G150 | clockout1pin=PA8 clockout1_hext clockout1div1=/2 clockout1div2=/4 | | clockout1_hext_QLabel: "
+        "(8.000 MHz); clockout1_Value_QLabel: (1.000 MHz)",
+        "G150 | clockout1pin=PE4 clockout1_pll clockout1div1=/3 clockout1div2=/16 | | "
+        "clockout1_Value_QLabel: (6.000 MHz); CLKOUT1_PinSelect: 2",
+        "G150 | clockout1pin=PA8 clockout1_lext clockout1div2=/8 | | clockout1_lext_QLabel: (32.768 kHz); "
+        "clockout1_Value_QLabel: (4.096 kHz)",
+        "G150 | clockout1pin=PA8 | | clockout1_hick_QLabel: (8.000 MHz)",
+        "G150 | clockout1pin=PA8 pllrcs_hick | | clockout1_hick_QLabel: (48.000 MHz)",
+        "G150 | clockout1pin=PA8 sclkselect_hick hicktosclk | | clockout1_hick_QLabel: (48.000 MHz)",
+        "G150 | clockout1pin=PA8 sclkselect_hick | | clockout1_hick_QLabel: (8.000 MHz)",
+        "G150 | clockout1pin=PA8 tousbswitch=enable tousb_hick | | clockout1_hick_QLabel: (48.000 MHz)",
+        "G150 | clockout1pin=PA8 tousbswitch=enable tousb_hick tousbswitch=disable | | "
+        "clockout1_hick_QLabel: (8.000 MHz)",
+        "G150 | clockout2pin=PC9 clockout2div1=/5 | | clockout2_sclk_QLabel: (288.000 MHz); "
+        "clockout2_Value_QLabel: (57.600 MHz)",
+        "G150 | clockout2pin=PC9 clockout2_lick clockout2div1=/4 | | clockout2_lick_QLabel: (40.000 kHz); "
+        "clockout2_Value_QLabel: (10.000 kHz)",
+        "G150 | clockout2pin=PC9 tousbswitch=enable clockout2_usb | | clockout2_Value_QLabel: (48.000 MHz); "
+        "CLKOUT2: 3",
+        "G150 | clockout2pin=PC9 clockout2_adcclk | | clockout2_adcclk_QLabel: ; clockout2_Value_QLabel: ",
+        // A source that is switched off makes room.
+        "G110 | clockoutpin=PA8 tousbswitch=enable clockout_usb tousbswitch=disable | | CLKOUT: 0; "
+        "clockout_Value_QLabel: ",
+        "G110 | clockoutpin=PA8 tousbswitch=enable clockout_usb clockoutpin=none | | CLKOUT: 6",
+        "G110 | clockoutpin=PA8 tousbswitch=enable clockout_usb clockoutpin=none tousbswitch=disable | | "
+        "CLKOUT: 0",
+        "G110 | clockoutpin=PA8 toadcswitch=enable clockout_adcclk toadcswitch=disable | | CLKOUT: 0",
+        "G150 G152 | clockout2pin=PC9 tousbswitch=enable clockout2_usb tousbswitch=disable | | CLKOUT2: 4; "
+        "clockout2_hick_QLabel: (8.000 MHz)",
+    });
+}
+
+void TestEdits::settingASelectorByProgram()
+{
+    const PageFixture page(QStringLiteral("G110"));
+    const auto check = [&page](const char* radio) {
+        page.find<QRadioButton>(QLatin1String(radio))->setChecked(true);
+    };
+    // The PLL's selectors listen to clicks only, that of the system clock to every change.
+    check("pllrcs_hick_RadioButton");
+    check("pllhext_div_RadioButton");
+    check("rtcsel_hext_RadioButton");
+    QCOMPARE(page.shows(QStringLiteral("PLLRC; PLLHEXTDIV; RTCSEL")),
+             QStringLiteral("PLLRC: 0; PLLHEXTDIV: 0; RTCSEL: 0"));
+    check("sclkselect_hick_RadioButton");
+    check("clockout_sclk_RadioButton");
+    QCOMPARE(page.shows(QStringLiteral("SYSCLKSelect; CLKOUT")),
+             QStringLiteral("SYSCLKSelect: 2; CLKOUT: 5"));
+}
+
+void TestEdits::paintsByTheModel()
+{
+    const PageFixture page(QStringLiteral("G150"));
+    const auto shown = [&page](double sysclk, double usb) {
+        page.model().Set_SYSCLKValue(sysclk);
+        page.model().Set_USBCLKValue(usb);
+        page.page->UpdateResultControls();
+        int warnings = 0;
+        for (const char* warning : {"sclkWarning1_QLabel", "sclkWarning2_QLabel", "sclkWarning3_QLabel"})
+            warnings += page.find(QLatin1String(warning))->isHidden() ? 0 : 1;
+        return QString::number(warnings) +
+               page.shows(QStringLiteral("usbclock_Label?")).section(QLatin1Char(' '), -1);
+    };
+    QCOMPARE(shown(240.0, 48.0), QStringLiteral("0darkGreen"));
+    QCOMPARE(shown(240.001, 47.9999), QStringLiteral("3red"));
+    QCOMPARE(shown(288.0, 48.0001), QStringLiteral("3red"));
+    QCOMPARE(shown(8.0, 48.0), QStringLiteral("0darkGreen"));
+}
+
+QTEST_MAIN(TestEdits)
+#include "tst_edits.moc"
