@@ -4,21 +4,32 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
+
+std::vector<double> figures::medians(int runs, const std::vector<std::function<void()>>& works,
+                                     const std::function<void()>& prepare)
+{
+    std::vector<std::vector<double>> times(works.size());
+    QElapsedTimer timer;
+    for (int i = 0; i < runs; ++i) {
+        for (std::size_t work = 0; work < works.size(); ++work) {
+            if (prepare)
+                prepare();
+            timer.start();
+            works[work]();
+            times[work].push_back(timer.nsecsElapsed() / 1e6);
+        }
+    }
+    std::vector<double> middles;
+    for (std::vector<double>& all : times) {
+        std::nth_element(all.begin(), all.begin() + runs / 2, all.end());
+        middles.push_back(all[static_cast<std::size_t>(runs / 2)]);
+    }
+    return middles;
+}
 
 double figures::median(int runs, const std::function<void()>& work, const std::function<void()>& prepare)
 {
-    std::vector<double> times;
-    QElapsedTimer timer;
-    for (int i = 0; i < runs; ++i) {
-        if (prepare)
-            prepare();
-        timer.start();
-        work();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    std::nth_element(times.begin(), times.begin() + runs / 2, times.end());
-    return times[static_cast<std::size_t>(runs / 2)];
+    return medians(runs, {work}, prepare).front();
 }
 
 void figures::print(const char* name, double milliseconds, const char* baselineName, double baseline)

@@ -110,26 +110,23 @@ void benchSeries(ZN64MCUSERIALS series, const QString& folder)
     std::printf("%s\n", qPrintable(seriesName(series)));
     std::unique_ptr<ClockTreePage> page(createSeriesPage(series, nullptr));
     const BarePage bare(*page, QLatin1String(":/image/") + QLatin1String(page->description().picture));
-    std::unique_ptr<QGraphicsView> plain;
-    const double baseline = figures::median(
-        constructions, [&] { plain = bare.build(); }, [&] { plain.reset(); });
-    plain.reset();
-    std::unique_ptr<ClockTreePage> other;
-    const double construction = figures::median(
-        constructions, [&] { other.reset(createSeriesPage(series, nullptr)); }, [&] { other.reset(); });
-    figures::print("construction", construction, "bare widgets", baseline);
-
     const QString path = folder + QLatin1String("/design.ZNCK");
     page->writeDesign(path, seriesName(series));
-    figures::print("opening a design",
-                   figures::median(
-                       constructions,
-                       [&] {
-                           other.reset(createSeriesPage(series, nullptr));
-                           other->OpenFromFile(path);
-                       },
-                       [&] { other.reset(); }),
-                   "construction", construction);
+    std::unique_ptr<QGraphicsView> plain;
+    std::unique_ptr<ClockTreePage> other;
+    const std::vector<double> times = figures::medians(
+        constructions,
+        {[&] { plain = bare.build(); }, [&] { other.reset(createSeriesPage(series, nullptr)); },
+         [&] {
+             other.reset(createSeriesPage(series, nullptr));
+             other->OpenFromFile(path);
+         }},
+        [&] {
+            plain.reset();
+            other.reset();
+        });
+    figures::print("construction", times[1], "bare widgets", times[0]);
+    figures::print("opening a design", times[2], "construction", times[1]);
     other.reset();
     benchEdits(*page, bare);
     benchGeneration(*page, folder);
