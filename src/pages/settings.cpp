@@ -56,6 +56,21 @@ Setting settings::decimal(ZN64ConfigCLK& model, ModelField field, std::function<
     return setting;
 }
 
+Setting settings::radios(ZN64ConfigCLK& model, ModelField field, const std::vector<RadioChoice>& choices,
+                         Acceptance accept)
+{
+    Setting setting = whole(
+        model, field, [](double) {}, accept);
+    setting.set = [&model, field, &choices](double value) {
+        field.set(model, value);
+        checkValue(choices, value);
+    };
+    setting.read = [set = setting.set, accept = std::move(accept)](const QString& text) {
+        set(accept(text.toInt(nullptr, 10)));
+    };
+    return setting;
+}
+
 int checkedValue(const std::vector<RadioChoice>& choices)
 {
     const auto choice = std::find_if(choices.begin(), choices.end(),

@@ -22,6 +22,13 @@ struct Setting
     std::function<void(double)> set;
 };
 
+/// A radio button and the number that it stands for.
+struct RadioChoice
+{
+    int value;
+    QRadioButton* radio;
+};
+
 /// Turns a number from a design file into one that the setting accepts.
 using Acceptance = std::function<double(double)>;
 
@@ -37,15 +44,12 @@ Acceptance unchecked();
 Setting whole(ZN64ConfigCLK& model, ModelField field, std::function<void(double)> show, Acceptance accept);
 /// The same for a number with one decimal.
 Setting decimal(ZN64ConfigCLK& model, ModelField field, std::function<void(double)> show, Acceptance accept);
+/// The same for radio buttons. They follow the model: a choice that falls back at once, because its block is
+/// off, takes the model along. The choices must outlive the setting.
+Setting radios(ZN64ConfigCLK& model, ModelField field, const std::vector<RadioChoice>& choices,
+               Acceptance accept);
 
 } // namespace settings
-
-/// A radio button and the number that it stands for.
-struct RadioChoice
-{
-    int value;
-    QRadioButton* radio;
-};
 
 /// The number of the checked button; the first one's if none is checked.
 int checkedValue(const std::vector<RadioChoice>& choices);

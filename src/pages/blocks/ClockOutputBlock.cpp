@@ -54,24 +54,9 @@ void ClockOutputBlock::New_clockout()
         m_choices.push_back({source.value, m_rows.back().radio});
     }
     m_title = label(member("_QLabel"));
-    addSetting(m_description.setting, sourceSetting());
-}
-
-Setting ClockOutputBlock::sourceSetting()
-{
-    Setting setting = settings::whole(
-        model(), m_description.field, [](double) {},
-        settings::oneOf(valuesOf(m_choices), m_description.rows.front().value));
-    // The buttons follow the model: a source that is off falls back at once and takes the model along.
-    setting.set = [this, set = setting.set](double value) {
-        set(value);
-        checkValue(m_choices, value);
-    };
-    setting.read = [this, read = setting.read](const QString& text) {
-        read(text);
-        checkValue(m_choices, m_description.field.get(model()));
-    };
-    return setting;
+    addSetting(m_description.setting,
+               settings::radios(model(), m_description.field, m_choices,
+                                settings::oneOf(valuesOf(m_choices), m_description.rows.front().value)));
 }
 
 ClockOutputBlock::Row ClockOutputBlock::makeRow(const ClockOutputRow& source, QButtonGroup* group) const

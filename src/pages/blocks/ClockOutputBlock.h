@@ -48,7 +48,6 @@ private:
     void New_clockoutpinselect();
     void New_clockout();
     void New_clockoutdiv(const ClockOutputDivider& divider);
-    Setting sourceSetting();
     Row makeRow(const ClockOutputRow& source, QButtonGroup* group) const;
     QString member(const char* rest) const;
     const Row* checkedRow() const;

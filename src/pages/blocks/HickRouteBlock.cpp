@@ -17,10 +17,9 @@ void HickRouteBlock::New_hicktosclk()
         {HICK_TO_SCLK_DIV6,  m_hicktosclk_div6_RadioButton},
         {HICK_TO_SCLK_NODIV, m_hicktosclk_RadioButton     }
     };
-    addSetting("hicktosclk", settings::whole(
-                                 model(), MODEL_FIELD(HICK_TO_SCLK),
-                                 [this](double value) { checkValue(m_hicktosclkChoices, value); },
-                                 settings::oneOf(valuesOf(m_hicktosclkChoices), HICK_TO_SCLK_DIV6)));
+    addSetting("hicktosclk",
+               settings::radios(model(), MODEL_FIELD(HICK_TO_SCLK), m_hicktosclkChoices,
+                                settings::oneOf(valuesOf(m_hicktosclkChoices), HICK_TO_SCLK_DIV6)));
 }
 
 void HickRouteBlock::ControlsConnectSlots()

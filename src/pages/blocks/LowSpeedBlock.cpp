@@ -84,10 +84,8 @@ void LowSpeedBlock::New_rtcsel()
         {RTCSEL_LEXT, m_rtcsel_lext_RadioButton},
         {RTCSEL_HEXT, m_rtcsel_hext_RadioButton}
     };
-    addSetting("rtcsel",
-               settings::whole(
-                   model(), MODEL_FIELD(RTCSEL), [this](double value) { checkValue(m_rtcselChoices, value); },
-                   settings::oneOf(valuesOf(m_rtcselChoices), RTCSEL_LICK)));
+    addSetting("rtcsel", settings::radios(model(), MODEL_FIELD(RTCSEL), m_rtcselChoices,
+                                          settings::oneOf(valuesOf(m_rtcselChoices), RTCSEL_LICK)));
 }
 
 void LowSpeedBlock::New_rtcdiv()

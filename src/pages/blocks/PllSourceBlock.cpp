@@ -21,9 +21,7 @@ void PllSourceBlock::New_pllhextdiv()
         {PLLHEXT_DIV,   m_pllhext_div_RadioButton  }
     };
     addSetting("pllhextdiv",
-               settings::whole(
-                   model(), MODEL_FIELD(PLLHEXTDIV),
-                   [this](double value) { checkValue(m_pllhextdivChoices, value); }, settings::switched()));
+               settings::radios(model(), MODEL_FIELD(PLLHEXTDIV), m_pllhextdivChoices, settings::switched()));
 }
 
 void PllSourceBlock::New_pllrcs()
@@ -38,9 +36,7 @@ void PllSourceBlock::New_pllrcs()
         {PLLRC_HICK, m_pllrcs_hick_RadioButton}
     };
     addSetting("pllrcs",
-               settings::whole(
-                   model(), MODEL_FIELD(PLLRC), [this](double value) { checkValue(m_pllrcsChoices, value); },
-                   settings::switched()));
+               settings::radios(model(), MODEL_FIELD(PLLRC), m_pllrcsChoices, settings::switched()));
 }
 
 void PllSourceBlock::ControlsConnectSlots()

@@ -52,10 +52,8 @@ void UsbBlock::New_hicktousb()
         {HICK_TO_USB_DISABLE, m_tousb_pll_RadioButton },
         {HICK_TO_USB_ENABLE,  m_tousb_hick_RadioButton}
     };
-    addSetting("hicktousb", settings::whole(
-                                model(), MODEL_FIELD(HICK_TO_USB),
-                                [this](double value) { checkValue(m_tousbChoices, value); },
-                                settings::oneOf(valuesOf(m_tousbChoices), HICK_TO_USB_DISABLE)));
+    addSetting("hicktousb", settings::radios(model(), MODEL_FIELD(HICK_TO_USB), m_tousbChoices,
+                                             settings::oneOf(valuesOf(m_tousbChoices), HICK_TO_USB_DISABLE)));
 }
 
 void UsbBlock::ControlsConnectSlots()
