@@ -1,5 +1,6 @@
 #include "builder.h"
 #include "checks.h"
+#include "inventory.h"
 #include "picture.h"
 #include "review.h"
 
@@ -29,18 +30,37 @@ void tellFont()
         say(QStringLiteral("Arial is drawn as %1: install the Liberation fonts").arg(family));
 }
 
-int paint(const QString& series, const QString& tree, const QString& output, const QString& review)
+/// The page of the series, shown in the window; null, after telling, for a series without a page.
+ClockTreePage* showPage(const QString& series, QWidget& window)
 {
     const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + series);
     // The program's windows lend this sheet to their pages, and sheets change the sizes of controls.
-    QWidget window;
     window.setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
     ClockTreePage* page = traits ? createSeriesPage(traits->series, &window) : nullptr;
-    if (!page) {
+    if (page)
+        window.show();
+    else
         say(QStringLiteral("there is no page for the series %1").arg(series));
+    return page;
+}
+
+int list(const QString& series)
+{
+    QWidget window;
+    ClockTreePage* page = showPage(series, window);
+    if (!page)
         return 1;
-    }
-    window.show();
+    layoutOf(*page); // lets the sizes settle
+    std::fputs(qPrintable(inventoryOf(*page)), stdout);
+    return 0;
+}
+
+int paint(const QString& series, const QString& tree, const QString& output, const QString& review)
+{
+    QWidget window;
+    ClockTreePage* page = showPage(series, window);
+    if (!page)
+        return 1;
     PageLayout layout = layoutOf(*page);
     Problems problems;
     const Drawing drawing = buildDrawing(readTree(tree, problems), layout, problems);
@@ -83,8 +103,14 @@ int main(int argc, char* argv[])
                        "<base>-200.png, even of a tree with faults."),
         QStringLiteral("base"));
     arguments.addOption(review);
+    const QCommandLineOption inventory(
+        QStringLiteral("list"),
+        QStringLiteral("Only print what the page of the series holds; takes neither tree nor output."));
+    arguments.addOption(inventory);
     arguments.process(application);
     const QStringList files = arguments.positionalArguments();
+    if (arguments.isSet(inventory) && files.size() == 1)
+        return list(files[0]);
     if (files.size() != 3)
         arguments.showHelp(1);
     return paint(files[0], files[1], files[2], arguments.value(review));
