@@ -2,7 +2,7 @@
 #include "figures.h"
 
 #include "model/seriestraits.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 #include "preview/FormCodeView.h"
 #include "shell/formconfiguration.h"
 
@@ -73,8 +73,8 @@ void benchEdits(ClockTreePage& page, const BarePage& bare)
                                    }),
                    "the same and a repaint", frame);
     figures::print("pass that changes nothing",
-                   figures::median(quickRuns, [&] { page.UpdateResultControls(); }), "setText on every edit",
-                   texts);
+                   figures::median(quickRuns, [&] { static_cast<ClockTree&>(page).UpdateResultControls(); }),
+                   "setText on every edit", texts);
 }
 
 void benchGeneration(ClockTreePage& page, const QString& folder)

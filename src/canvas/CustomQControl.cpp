@@ -1,6 +1,6 @@
-#include "CustomQControl.h"
+#include "canvas/CustomQControl.h"
 
-#include "appearance.h"
+#include "canvas/appearance.h"
 
 #include <QApplication>
 #include <QMouseEvent>

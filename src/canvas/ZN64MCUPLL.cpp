@@ -1,6 +1,6 @@
-#include "ZN64MCUPLL.h"
+#include "canvas/ZN64MCUPLL.h"
 
-#include "appearance.h"
+#include "canvas/appearance.h"
 #include "xml/guardedxml.h"
 
 #include <QDomDocument>

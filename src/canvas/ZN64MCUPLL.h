@@ -1,8 +1,8 @@
 #pragma once
 
-#include "CustomQControl.h"
+#include "canvas/CustomQControl.h"
+#include "canvas/pingraphicsview.h"
 #include "model/ZN64ConfigCLK.h"
-#include "pingraphicsview.h"
 
 #include <QDialog>
 #include <QGraphicsProxyWidget>

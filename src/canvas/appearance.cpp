@@ -1,4 +1,4 @@
-#include "appearance.h"
+#include "canvas/appearance.h"
 
 #include <QVariant>
 

@@ -1,4 +1,4 @@
-#include "ZN64MCUPLL.h"
+#include "canvas/ZN64MCUPLL.h"
 
 #include <QGroupBox>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "pingraphicsview.h"
+#include "canvas/pingraphicsview.h"
 
 #include <QComboBox>
 #include <QGraphicsPixmapItem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clockenums.h"
+#include "model/clockenums.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
-#include "ZN64ConfigCLK.h"
-#include "divisors.h"
-#include "numbers.h"
-#include "seriestraits.h"
+#include "model/ZN64ConfigCLK.h"
+#include "model/divisors.h"
+#include "model/numbers.h"
+#include "model/seriestraits.h"
 
 #include <cmath>
 

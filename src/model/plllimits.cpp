@@ -1,6 +1,6 @@
-#include "ZN64ConfigCLK.h"
-#include "divisors.h"
-#include "seriestraits.h"
+#include "model/ZN64ConfigCLK.h"
+#include "model/divisors.h"
+#include "model/seriestraits.h"
 
 #include <algorithm>
 

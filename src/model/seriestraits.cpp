@@ -1,4 +1,4 @@
-#include "seriestraits.h"
+#include "model/seriestraits.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
-#include "ZN64ConfigCLK.h"
-#include "seriestraits.h"
+#include "model/ZN64ConfigCLK.h"
+#include "model/seriestraits.h"
 
 ZN64ConfigCLK::ZN64ConfigCLK(ZN64MCUSERIALS series) : m_MCUType(series), m_traits(&seriesTraits(series))
 {

@@ -1,5 +1,5 @@
-#include "ZN64ConfigCLK.h"
-#include "seriestraits.h"
+#include "model/ZN64ConfigCLK.h"
+#include "model/seriestraits.h"
 
 bool ZN64ConfigCLK::usbpll_isEnable() const
 {

@@ -1,40 +1,36 @@
 #pragma once
 
 #include "canvas/ZN64MCUPLL.h"
-#include "pagedescription.h"
-#include "settings.h"
+#include "pages/blocks/ClockTree.h"
 
 #include <QHash>
-#include <QMessageBox>
+#include <QSet>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
+class AdcBlock;
 class ClockBlock;
-class HighSpeedBlock;
 class HickRouteBlock;
+class HighSpeedBlock;
 class LowSpeedBlock;
 class OutputsBlock;
 class FlexiblePllBlock;
-class AdcBlock;
-class PllMultiplierBlock;
 class PllOutputBlock;
 class PllSourceBlock;
 class SystemClockBlock;
 class UsbBlock;
-class ClockOutputBlock;
 
 /// A series page: blocks put together by a description. The class of a series calls build() in its
 /// constructor, when texts already translate in its own context.
-class ClockTreePage : public ZN64MCUPLL
+class ClockTreePage : public ZN64MCUPLL, public ClockTree
 {
     Q_OBJECT
 
 public:
     ~ClockTreePage() override;
 
-    const PageDescription& description() const { return m_description; }
+    const PageDescription& description() const override { return m_description; }
 
     /// Sets every control and its field to the start state, then recalculates.
     void InitAllControl();
@@ -49,68 +45,10 @@ public:
     /// The typed values that generating insists on; false after telling what is wrong.
     bool GenerateCodeCheck();
 
-    // What one block may ask about the rest of the tree. The answers come from the controls.
-
-    bool rtcOn() const;
-    bool sclkFromPll() const;
-    bool sclkFromHick() const;
-    bool hextFeedsPll() const;
-    bool hickUndivided() const;
-    bool usbOn() const;
-    bool usbFromPll() const;
-    bool usbFromHick() const;
-    bool adcOn() const;
-    bool pllInUse() const;
-    /// Whether anything but the RTC needs hext, so that its typed value must be good.
-    bool hextNeeded() const;
-    /// Whether hext is in use at all, the RTC included.
-    bool hextInUse() const;
-    /// While a design file is being read, typed values pass as they are, nobody is told, and nothing is
-    /// solved: the file's own numbers stand.
-    bool readingDesign() const { return m_readingDesign; }
-
-    // What the blocks' slots run.
-
-    void UI_Display();
-    /// Recalculates and repaints, unless a typed value is bad.
-    void UpdateCalculateResult();
-    void UpdateResultControls();
-    /// Solves for the clock that must be kept, then recalculates and repaints.
-    void UpdateParam_From_ResultCLK();
-    /// Shows the PLL parameters that a solver found.
-    void updatePllControls();
-    void UpdateRTCParam();
-    /// Solves for 48 MHz at USB and shows the parameters found. Does not repaint the results.
-    void searchUsb();
-    void hext_LineEdit_returnPressed();
-    /// Writes a good hext, MHz, in place of a bad one and commits it.
-    void correctHext(double hext);
-    /// Takes the typed hext over if it feeds the PLL; false after telling that it is bad.
-    bool readHextForPll();
-    /// Takes the typed hext over; false after telling that it is bad.
-    bool readHext();
-    /// Keeps the typed system clock over a change of the PLL's source or divider, if it is good.
-    void keepTypedSysclk();
-    bool Hext_Value_Valid(double& value);
-    bool Result_SYSCLK_Valid(double& value);
-
-    /// The text in the user's language, in the context of the concrete page class.
-    QString translated(const char* text) const;
-    void showError(const char* text) const;
-    void showError(const QString& translatedText) const;
-    /// A question with "Yes" and "Cancel"; true unless it was cancelled.
-    bool askToContinue(QMessageBox::Icon icon, const char* text) const;
-
-    // Controls at their places, named after themselves.
-
-    QLabel* placeLabel(const QString& name);
-    QLineEdit* placeEdit(const QString& name);
-    QLineEdit* placeOutput(const QString& name);
-    CustomComboBox1* placeCombo(const QString& name);
-    QRadioButton* placeRadio(const QString& name);
-
-    void addControls(const char* routine, std::function<void()> make);
-    void addSetting(const char* name, Setting setting);
+    /// The controls that have a place but are made by no block: faults in the series' tables.
+    QStringList unusedPlaces() const;
+    /// The names of all settings, those that no design file holds included.
+    QStringList settingNames() const { return m_settings.keys(); }
 
 protected:
     ClockTreePage(const PageDescription& description, QWidget* parent);
@@ -122,18 +60,78 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    template <class Block>
-    Block* addBlock(std::unique_ptr<Block> block);
-    /// Whether the series has the controls of this routine.
-    bool makes(const char* routine) const;
+    // What the blocks ask.
+
+    ZN64ConfigCLK& clocks() const override { return const_cast<ClockTreePage*>(this)->model(); }
+    bool rtcOn() const override;
+    bool rtcFromLext() const override;
+    bool rtcFromHext() const override;
+    bool sclkFromPll() const override;
+    bool sclkFromHext() const override;
+    bool sclkFromHick() const override;
+    bool hextFeedsPll() const override;
+    bool usbOn() const override;
+    bool usbFromPll() const override;
+    bool usbFromHick() const override;
+    bool adcOn() const override;
+    bool pllInUse() const override;
+    bool hextInUse() const override;
+    double hickAtOutputs() const override;
+    bool readingDesign() const override { return m_readingDesign; }
+
+    // What the blocks have done.
+
+    void UI_Display() override;
+    void UpdateCalculateResult() override;
+    void UpdateResultControls() override;
+    void UpdateParam_From_ResultCLK() override;
+    void updatePllControls() override;
+    void UpdateRTCParam() override;
+    void searchUsb() override;
+    void serveUsb() override;
+    void hext_LineEdit_returnPressed() override;
+    void correctHext(double hext) override;
+    bool readHextForPll() override;
+    bool readHext() override;
+    void keepTypedSysclk() override;
+    bool Hext_Value_Valid(double& value) override;
+    bool Result_SYSCLK_Valid(double& value) override;
+    void tellHextInUse(bool inUse) override { Set_Hext_Enable_Falg(inUse); }
+
+    QString translated(const char* text) const override;
+    void showError(const char* text) const override;
+    bool askToContinue(QMessageBox::Icon icon, const char* text) const override;
+
+    QLabel* placeLabel(const QString& name) override;
+    QLineEdit* placeEdit(const QString& name) override;
+    QLineEdit* placeOutput(const QString& name) override;
+    CustomComboBox1* placeCombo(const QString& name) override;
+    QRadioButton* placeRadio(const QString& name) override;
+    QPushButton* placeListButton(const QString& name, const QString& output) override;
+    QDialog* placeList(const QString& name, const QStringList& peripherals) override;
+    QWidget* widget() override { return this; }
+
+    void addControls(const char* routine, std::function<void()> make) override;
+    void addSetting(const char* name, Setting setting) override;
+
+    // Its own work.
+
+    template <class Block, class... Arguments>
+    Block* addBlock(const Arguments&... arguments);
+    std::function<bool()> useOf(const Divider& divider) const;
     void createBlocks();
     void NewAllControl();
     void ControlsConnectSlots();
+    const Control& take(const QString& name, ControlType kind);
+    const Setting& setting(const QString& name) const;
     bool TextBox_Input_Valid_Check();
+    /// Whether anything but the RTC needs hext, so that its typed value must be good.
+    bool hextNeeded() const;
 
-    bool breaksSoftLimit(const SoftLimit& limit) const;
-    bool passesHardLimits() const;
-    bool passesSoftLimits() const;
+    bool isOn(ClockSource clock) const;
+    bool passes(const Limit& limit) const;
+    bool passesAll(const Limits& limits) const;
+    void showErrorBox(const QString& translatedText) const;
     bool prepareFolders(const QString& incPath, const QString& srcPath) const;
     void showGenerated(const QString& folder) const;
 
@@ -141,12 +139,12 @@ private:
     std::vector<std::unique_ptr<ClockBlock>> m_blocks;
     QHash<QString, std::function<void()>> m_routines;
     QHash<QString, Setting> m_settings;
+    QSet<QString> m_takenPlaces;
     bool m_readingDesign = false;
 
     LowSpeedBlock* m_lowSpeed = nullptr;
     HighSpeedBlock* m_highSpeed = nullptr;
     PllSourceBlock* m_pllSource = nullptr;
-    PllMultiplierBlock* m_pllMultiplier = nullptr;
     FlexiblePllBlock* m_flexiblePll = nullptr;
     PllOutputBlock* m_pllOutput = nullptr;
     SystemClockBlock* m_systemClock = nullptr;

@@ -1,6 +1,5 @@
-#include "ClockTreePage.h"
+#include "pages/ClockTreePage.h"
 
-#include "blocks/PllOutputBlock.h"
 #include "widgets/messages.h"
 #include "xml/guardedxml.h"
 
@@ -12,43 +11,9 @@
 
 // Design files: one flat XML document per design, an element per setting.
 
-bool ClockTreePage::passesHardLimits() const
-{
-    for (const HardLimit& limit : m_description.hardLimits) {
-        if (limit.clock == Clock::Pll && !m_pllOutput->shown())
-            continue;
-        if (clockValue(model(), limit.clock) > limit.compared) {
-            showError(translated(limit.words) + QStringLiteral(" %1MHz").arg(limit.shown));
-            return false;
-        }
-    }
-    return true;
-}
-
-bool ClockTreePage::breaksSoftLimit(const SoftLimit& limit) const
-{
-    switch (limit.kind) {
-    // Not a number is unequal to 48 too.
-    case SoftLimitKind::Usb48:
-        return model().Get_TO_USB_Switch() == TO_USB_SWITCH_ENABLE &&
-               model().Get_USBCLKValue() != limit.limit;
-    case SoftLimitKind::AdcAbove:
-        return model().Get_ToADC_Switch() && model().Get_ADCCLK_Value() > limit.limit;
-    }
-    return false;
-}
-
-bool ClockTreePage::passesSoftLimits() const
-{
-    for (const SoftLimit& limit : m_description.softLimits)
-        if (breaksSoftLimit(limit) && !askToContinue(QMessageBox::Warning, limit.text))
-            return false;
-    return true;
-}
-
 void ClockTreePage::SaveToFile(const QString& seriesName)
 {
-    if (!passesHardLimits() || !passesSoftLimits() || seriesName.isEmpty())
+    if (!passesAll(m_description.onSaving) || seriesName.isEmpty())
         return;
     const QString path =
         QFileDialog::getSaveFileName(this, translated("Save"), QString(), translated("Config file (*.ZNCK)"));
@@ -77,8 +42,8 @@ bool ClockTreePage::writeDesign(const QString& path, const QString& seriesName) 
     writer.writeStartDocument();
     writer.writeStartElement(QStringLiteral("Configuration"));
     writer.writeTextElement(QStringLiteral("MCU"), seriesName);
-    for (const char* name : m_description.fileOrder)
-        writer.writeTextElement(QLatin1String(name), m_settings.value(QLatin1String(name)).text());
+    for (const QString& name : m_description.settingsInFile())
+        writer.writeTextElement(name, setting(name).text());
     writer.writeEndElement();
     return true;
 }
@@ -91,8 +56,8 @@ void ClockTreePage::OpenFromFile(const QString& path)
     QDomDocument document;
     loadGuardedXml(path, document);
     const QDomElement root = document.documentElement();
-    for (const char* name : m_description.readingOrder)
-        m_settings.value(QLatin1String(name)).read(root.firstChildElement(QLatin1String(name)).text());
+    for (const QString& name : m_description.settingsInReadingOrder())
+        setting(name).read(root.firstChildElement(name).text());
     UI_Display();
     UpdateRTCParam();
     UpdateCalculateResult();

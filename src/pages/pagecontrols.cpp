@@ -1,41 +1,81 @@
-#include "ClockTreePage.h"
+#include "pages/ClockTreePage.h"
 
 #include "widgets/named.h"
 
+#include <algorithm>
+
 // Every control stands where its description says and is named after its member.
+
+namespace {
+// From the corner of an output edit to that of its list button, pixels.
+constexpr int buttonRight = 85;
+constexpr int buttonDown = 25;
+constexpr int listSpacing = 4;
+} // namespace
+
+const Control& ClockTreePage::take(const QString& name, ControlType kind)
+{
+    const Control& control = m_description.places.at(name);
+    if (control.kind != kind)
+        qFatal("%s is a control of another kind", qPrintable(name));
+    m_takenPlaces.insert(name);
+    return control;
+}
+
+QStringList ClockTreePage::unusedPlaces() const
+{
+    QStringList names = m_description.places.names();
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [this](const QString& name) { return m_takenPlaces.contains(name); }),
+                names.end());
+    names.sort();
+    return names;
+}
 
 QLabel* ClockTreePage::placeLabel(const QString& name)
 {
-    const ControlPlace& place = m_description.places.at(name);
-    QString text = QString::fromLatin1(place.text);
-    text.replace(QLatin1String("%1"), QString::number(m_description.limits.sysclk));
+    const Control& place = take(name, ControlType::Label);
+    QString text = place.text;
+    text.replace(QLatin1String("%1"), QString::number(m_description.typedSclk.highest));
     return named(name, NewQLabelInScenePos(text, place.x, place.y, place.pointSize, place.weight));
 }
 
 QLineEdit* ClockTreePage::placeEdit(const QString& name)
 {
-    const ControlPlace& place = m_description.places.at(name);
+    const Control& place = take(name, ControlType::Edit);
     QGraphicsProxyWidget* proxy = nullptr;
-    return named(name, NewCustomLineEditInScenePos(QLatin1String(place.text), place.x, place.y, &proxy));
+    return named(name, NewCustomLineEditInScenePos(place.text, place.x, place.y, &proxy));
 }
 
 QLineEdit* ClockTreePage::placeOutput(const QString& name)
 {
-    const ControlPlace& place = m_description.places.at(name);
-    QLineEdit* edit =
-        *place.text ? New_toperipheralControl(QLatin1String(place.text), place.x, place.y, place.pointSize)
-                    : New_toperipheralControl(place.x, place.y, place.pointSize);
+    const Control& place = take(name, ControlType::Output);
+    QLineEdit* edit = place.text.isEmpty()
+                          ? New_toperipheralControl(place.x, place.y, place.pointSize)
+                          : New_toperipheralControl(place.text, place.x, place.y, place.pointSize);
     return named(name, edit);
 }
 
 CustomComboBox1* ClockTreePage::placeCombo(const QString& name)
 {
-    const ControlPlace& place = m_description.places.at(name);
+    const Control& place = take(name, ControlType::Combo);
     return named(name, NewComboBoxInScenePos(place.x, place.y, place.width, place.z));
 }
 
 QRadioButton* ClockTreePage::placeRadio(const QString& name)
 {
-    const ControlPlace& place = m_description.places.at(name);
+    const Control& place = take(name, ControlType::Radio);
     return named(name, NewRadioButtonInScenePos(place.x, place.y));
+}
+
+QPushButton* ClockTreePage::placeListButton(const QString& name, const QString& output)
+{
+    const Control& place = m_description.places.at(output);
+    return named(name, New_toperipheralListButton(place.x + buttonRight, place.y + buttonDown, 0));
+}
+
+QDialog* ClockTreePage::placeList(const QString& name, const QStringList& peripherals)
+{
+    const Control& place = take(name, ControlType::List);
+    return named(name, New_toperipheralListGroup(peripherals, place.x, place.y, 0, listSpacing));
 }

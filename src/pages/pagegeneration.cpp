@@ -1,8 +1,8 @@
-#include "ClockTreePage.h"
+#include "pages/ClockTreePage.h"
 
-#include "blocks/HighSpeedBlock.h"
-#include "blocks/SystemClockBlock.h"
-#include "pages/inputlimits.h"
+#include "pages/blocks/HighSpeedBlock.h"
+#include "pages/blocks/SystemClockBlock.h"
+#include "pages/description/inputlimits.h"
 #include "widgets/messages.h"
 
 #include <QCoreApplication>
@@ -20,6 +20,11 @@ bool ClockTreePage::GenerateCodeCheck()
     }
     if (!m_systemClock->inRange(m_systemClock->typed())) {
         showError("sclk input error!");
+        return false;
+    }
+    if (m_description.generatedApb3 &&
+        model().Get_AHBCLKValue() / model().Get_APB3DIV() > *m_description.generatedApb3) {
+        showError("apb3div input error!");
         return false;
     }
     return true;
@@ -41,7 +46,7 @@ bool ClockTreePage::prepareFolders(const QString& incPath, const QString& srcPat
 
 bool ClockTreePage::GenerateCode()
 {
-    if (!GenerateCodeCheck() || !passesHardLimits() || !passesSoftLimits())
+    if (!GenerateCodeCheck() || !passesAll(m_description.onGenerating))
         return false;
     const bool byUser = model().Get_GenerateCodeMode() == MODE_USER_BUTTON;
     const QString folder =

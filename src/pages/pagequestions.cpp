@@ -1,17 +1,23 @@
-#include "ClockTreePage.h"
+#include "pages/ClockTreePage.h"
 
-#include "blocks/AdcBlock.h"
-#include "blocks/HickRouteBlock.h"
-#include "blocks/HighSpeedBlock.h"
-#include "blocks/LowSpeedBlock.h"
-#include "blocks/PllSourceBlock.h"
-#include "blocks/SystemClockBlock.h"
-#include "blocks/UsbBlock.h"
+#include "pages/blocks/AdcBlock.h"
+#include "pages/blocks/HickRouteBlock.h"
+#include "pages/blocks/HighSpeedBlock.h"
+#include "pages/blocks/LowSpeedBlock.h"
+#include "pages/blocks/PllSourceBlock.h"
+#include "pages/blocks/SystemClockBlock.h"
+#include "pages/blocks/UsbBlock.h"
 #include "widgets/messages.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+
+namespace {
+// What hick gives to outputs, MHz: undivided, and behind its divider by 6.
+constexpr double hickMHz = 48.0;
+constexpr double dividedHickMHz = 8.0;
+} // namespace
 
 // What the blocks ask of each other through the page, and the typed values that several of them take over.
 
@@ -20,9 +26,24 @@ bool ClockTreePage::rtcOn() const
     return m_lowSpeed->rtcOn();
 }
 
+bool ClockTreePage::rtcFromLext() const
+{
+    return m_lowSpeed->lextSelected();
+}
+
+bool ClockTreePage::rtcFromHext() const
+{
+    return m_lowSpeed->hextSelected();
+}
+
 bool ClockTreePage::sclkFromPll() const
 {
     return m_systemClock->pllSelected();
+}
+
+bool ClockTreePage::sclkFromHext() const
+{
+    return m_systemClock->hextSelected();
 }
 
 bool ClockTreePage::sclkFromHick() const
@@ -33,11 +54,6 @@ bool ClockTreePage::sclkFromHick() const
 bool ClockTreePage::hextFeedsPll() const
 {
     return m_pllSource->hextSelected();
-}
-
-bool ClockTreePage::hickUndivided() const
-{
-    return m_hickRoute && m_hickRoute->undivided();
 }
 
 bool ClockTreePage::usbOn() const
@@ -62,7 +78,7 @@ bool ClockTreePage::adcOn() const
 
 bool ClockTreePage::pllInUse() const
 {
-    return sclkFromPll() || usbFromPll() ||
+    return sclkFromPll() ||
            std::any_of(m_blocks.begin(), m_blocks.end(), [](const auto& block) { return block->usesPll(); });
 }
 
@@ -74,7 +90,24 @@ bool ClockTreePage::hextNeeded() const
 
 bool ClockTreePage::hextInUse() const
 {
-    return hextNeeded() || (rtcOn() && m_lowSpeed->hextSelected());
+    return hextNeeded() || (rtcOn() && rtcFromHext());
+}
+
+double ClockTreePage::hickAtOutputs() const
+{
+    const auto by = [](bool undivided) { return undivided ? hickMHz : dividedHickMHz; };
+    switch (m_description.hickAtOutputs) {
+    case HickAtOutputs::Always8:
+        return dividedHickMHz;
+    case HickAtOutputs::Always48:
+        return hickMHz;
+    case HickAtOutputs::With48ForUsb:
+        return by(usbFromHick());
+    case HickAtOutputs::ByRoute:
+        return by(usbFromHick() || (sclkFromHick() && m_hickRoute && m_hickRoute->undivided()) ||
+                  (sclkFromPll() && !hextFeedsPll()));
+    }
+    return hickMHz;
 }
 
 bool ClockTreePage::Hext_Value_Valid(double& value)
@@ -130,10 +163,10 @@ QString ClockTreePage::translated(const char* text) const
 
 void ClockTreePage::showError(const char* text) const
 {
-    showError(translated(text));
+    showErrorBox(translated(text));
 }
 
-void ClockTreePage::showError(const QString& translatedText) const
+void ClockTreePage::showErrorBox(const QString& translatedText) const
 {
     showMessage(QMessageBox::Critical, translated("Error"), translatedText,
                 {

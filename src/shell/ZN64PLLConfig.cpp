@@ -2,7 +2,7 @@
 
 #include "model/seriestraits.h"
 #include "pages/ClockTreePage.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 #include "widgets/messages.h"
 #include "widgets/named.h"
 
@@ -81,7 +81,6 @@ bool ZN64PLLConfig::newConfig(ZN64MCUSERIALS series)
         showNotSupported();
         return false;
     }
-    m_MCUSerial = series;
     m_toolBarGroupBox->show();
     NewMCUConfig(series);
     ZoomReset();
@@ -147,7 +146,7 @@ void ZN64PLLConfig::ConfigReset()
 void ZN64PLLConfig::SaveToFile()
 {
     if (m_pllConfigWidget)
-        m_pllConfigWidget->SaveToFile(seriesName(m_MCUSerial));
+        m_pllConfigWidget->SaveToFile(seriesName(m_pllConfigWidget->model().series()));
 }
 
 void ZN64PLLConfig::OpenFromFile(const QString& path, QString& seriesName)
@@ -162,14 +161,13 @@ void ZN64PLLConfig::OpenFromFile(const QString& path, QString& seriesName)
     if (!hasSeriesPage(traits->series)) {
         // Unlike behind an unknown name, the design that stays keeps its name.
         if (HaveActivedConfig())
-            seriesName = ::seriesName(m_MCUSerial);
+            seriesName = ::seriesName(m_pllConfigWidget->model().series());
         showNotSupported();
         return;
     }
     m_MCUName = name;
-    m_MCUSerial = traits->series;
     m_toolBarGroupBox->show();
-    NewMCUConfig(m_MCUSerial);
+    NewMCUConfig(traits->series);
     m_pllConfigWidget->OpenFromFile(path);
     ZoomReset();
     seriesName = m_MCUName;

@@ -56,8 +56,6 @@ private:
 
     QVBoxLayout* m_main_VBoxLayout;
     QGroupBox* m_toolBarGroupBox;
-    /// Meaningful only while there is a page.
-    ZN64MCUSERIALS m_MCUSerial = {};
     /// The series name last read from a design file; empty after an unknown one.
     QString m_MCUName;
     QToolBar* m_ToolBar;

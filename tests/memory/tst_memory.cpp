@@ -1,5 +1,5 @@
 #include "model/seriestraits.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 #include "shell/ZN64PLLConfig.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/seriestraits.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 #include "widgets/dialoganswers.h"
 
 #include <QGraphicsScene>
@@ -30,6 +30,8 @@ public:
     }
 
     ZN64ConfigCLK& model() const { return page->model(); }
+    /// What the blocks have done by the page.
+    ClockTree& tree() const { return *page; }
     QString series() const { return seriesName(page->model().series()); }
     QWidget* viewport() const { return page->view()->viewport(); }
     QList<QWidget*> controls() const
@@ -212,7 +214,7 @@ inline void PageFixture::takeRandomSteps(int count, QRandomGenerator& random) co
     };
     for (int step = 0; step <= count; ++step) {
         DialogAnswers answers{agree, agree, agree, agree, agree, agree};
-        step < count ? takeRandomStep(random) : page->UpdateCalculateResult();
+        step < count ? takeRandomStep(random) : tree().UpdateCalculateResult();
     }
 }
 

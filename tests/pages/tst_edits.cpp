@@ -341,7 +341,7 @@ void TestEdits::paintsByTheModel()
     const auto shown = [&page](double sysclk, double usb) {
         page.model().Set_SYSCLKValue(sysclk);
         page.model().Set_USBCLKValue(usb);
-        page.page->UpdateResultControls();
+        page.tree().UpdateResultControls();
         int warnings = 0;
         for (const char* warning : {"sclkWarning1_QLabel", "sclkWarning2_QLabel", "sclkWarning3_QLabel"})
             warnings += page.find(QLatin1String(warning))->isHidden() ? 0 : 1;

@@ -155,7 +155,7 @@ void TestPage::oneListIsOpen()
     while (page.page->view()->itemAt(bare) && page.page->view()->itemAt(bare)->isWidget())
         bare += QPoint(1, 1);
     QCOMPARE(open(), QString());
-    for (const ListGroup& list : page.page->description().listGroups) {
+    for (const ListNames& list : listNames()) {
         const QString group = QString::fromLatin1(list.group);
         const QString button = QString::fromLatin1(list.button).mid(2);
         // The list of the round before is open still and makes room.
@@ -214,9 +214,9 @@ void TestPage::passThatChangesNothingSetsNothing()
     QRandomGenerator random(7);
     const PageFixture page(word);
     const auto pass = [&page] {
-        page.page->UI_Display();
-        page.page->UpdateCalculateResult();
-        page.page->UpdateRTCParam();
+        page.tree().UI_Display();
+        page.tree().UpdateCalculateResult();
+        page.tree().UpdateRTCParam();
     };
     for (int round = 0; round < 20; ++round) {
         pass();

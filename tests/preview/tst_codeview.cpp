@@ -1,5 +1,5 @@
 #include "model/seriestraits.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 #include "preview/FormCodeView.h"
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"

@@ -115,9 +115,9 @@ void TestTranslations::pageTextsStandInTheTableAndInTheCode()
 
     // Only sentences for the user end like this.
     static const QRegularExpression sentence(QStringLiteral("\\w(!|\\?| than|<= \\d+MHz)$"));
-    const QString noPageYet = QStringLiteral("1000MHz");
+    static const QRegularExpression noPageYet(QStringLiteral("(1000MHz|less than|apb3.*)$"));
     for (const QString& literal : literals)
-        if (sentence.match(literal).hasMatch() && !literal.endsWith(noPageYet))
+        if (sentence.match(literal).hasMatch() && !noPageYet.match(literal).hasMatch())
             QVERIFY2(texts.contains(literal), qPrintable(QStringLiteral("not in the table: ") + literal));
 }
 

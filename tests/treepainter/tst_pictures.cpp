@@ -1,5 +1,5 @@
 #include "model/seriestraits.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 #include "treepainter/pagelayout.h"
 #include "treepainter/picture.h"
 

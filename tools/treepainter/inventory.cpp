@@ -98,34 +98,38 @@ QString startDesign(const ClockTreePage& page)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("unwritten");
 }
 
-QString limitsOf(const PageDescription& page)
+QString describe(const Limit& limit, const char* list)
 {
-    const PageLimits& limits = page.limits;
-    QString lines =
-        QStringLiteral("typed sclk: %1 to %2\n")
-            .arg(limits.lowestSysclk ? QString::number(*limits.lowestSysclk) : QStringLiteral("any"))
-            .arg(limits.sysclk);
-    lines += QStringLiteral("painted: apb1 %1 apb2 %2 pll %3 adc %4\n")
-                 .arg(limits.apb1)
-                 .arg(limits.apb2)
-                 .arg(limits.pll)
-                 .arg(limits.adc);
-    for (const HardLimit& limit : page.hardLimits)
-        lines += QStringLiteral("refused on saving and generating: \"%1 %2MHz\" above %3\n")
-                     .arg(QLatin1String(limit.words))
-                     .arg(limit.shown)
-                     .arg(limit.compared);
-    for (const SoftLimit& limit : page.softLimits)
-        lines += QStringLiteral("asked: %1 \"%2\"\n").arg(limit.limit).arg(QLatin1String(limit.text));
-    return lines;
+    const QString words =
+        limit.question
+            ? QLatin1String("asks ") + quoted(QLatin1String(limit.question))
+            : QStringLiteral("%1 %2MHz").arg(QLatin1String(limits::refusal(limit))).arg(limit.shown);
+    const char* const clocks[] = {"none", "untold", "outside", "lick",       "lext",  "hick",       "hext",
+                                  "sclk", "ahb",    "apb1",    "apb1 timer", "apb2",  "apb2 timer", "apb3",
+                                  "adc",  "usb",    "pll",     "pll/2",      "pll/4", "pllu"};
+    const char* const bounds[] = {"above", "in normal mode below", "unless exactly"};
+    return QStringLiteral("%1: %2 %3 %4 (%5)\n")
+        .arg(QLatin1String(list), QLatin1String(clocks[static_cast<int>(limit.clock)]),
+             QLatin1String(bounds[static_cast<int>(limit.bound)]))
+        .arg(limit.compared)
+        .arg(words);
 }
 
-QString readingOrderOf(const PageDescription& page)
+QString limitsOf(const PageDescription& page)
 {
-    QStringList names;
-    for (const char* name : page.readingOrder)
-        names << QLatin1String(name);
-    return names.join(QLatin1Char(' '));
+    const TypedSclk& typed = page.typedSclk;
+    QString lines = QStringLiteral("typed sclk: %1 to %2\n")
+                        .arg(typed.lowest ? QString::number(*typed.lowest) : QStringLiteral("any"))
+                        .arg(typed.highest);
+    for (const Limit& limit : page.painted)
+        lines += describe(limit, "painted");
+    for (const Limit& limit : page.onSaving)
+        lines += describe(limit, "saving");
+    for (const Limit& limit : page.onGenerating)
+        lines += describe(limit, "generating");
+    if (page.generatedApb3)
+        lines += QStringLiteral("generating refuses AHB by apb3div above %1\n").arg(*page.generatedApb3);
+    return lines;
 }
 
 } // namespace
@@ -139,6 +143,6 @@ QString inventoryOf(ClockTreePage& page)
                .arg(description.pictureSize.height())
                .arg(QLatin1String(description.stem)) +
            controlsOf(page) + QLatin1Char('\n') + limitsOf(description) + QLatin1Char('\n') +
-           startDesign(page) + QLatin1String("\n\nread in the order: ") + readingOrderOf(description) +
-           QLatin1Char('\n');
+           startDesign(page) + QLatin1String("\n\nread in the order: ") +
+           QLatin1String(description.readingOrder) + QLatin1Char('\n');
 }

@@ -5,7 +5,7 @@
 #include "review.h"
 
 #include "model/seriestraits.h"
-#include "pages/seriespages.h"
+#include "pages/series/seriespages.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

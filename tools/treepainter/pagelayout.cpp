@@ -30,14 +30,14 @@ QString nameOf(const QWidget& control)
 bool startsEmpty(const ClockTreePage& page, const QString& name)
 {
     const Places& places = page.description().places;
-    return places.has(name) && *places.at(name).text == '\0';
+    return places.has(name) && places.at(name).text.isEmpty();
 }
 
 bool isOutput(const ClockTreePage& page, const QString& name)
 {
-    const std::vector<OutputRow>& outputs = page.description().outputs;
+    const std::vector<OutputRow>& outputs = page.description().outputs.rows;
     return std::any_of(outputs.begin(), outputs.end(),
-                       [&name](const OutputRow& row) { return name == QLatin1String(row.edit); });
+                       [&name](const OutputRow& row) { return name == outputEdit(row); });
 }
 
 /// A label may be hidden for now or have grown since its item saw it: it needs the room of its text.

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
-/// The ADC clock: divider of APB2, switch and output.
+/// The ADC clock behind its divider of APB2: switch and output.
 class AdcBlock : public ClockBlock
 {
     Q_OBJECT
 
 public:
-    explicit AdcBlock(ClockTreePage& page);
+    explicit AdcBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
@@ -18,13 +18,11 @@ public:
 
 private slots:
     void toadcswitch_ComboBox_currentIndexChanged(int index);
-    void toadcdiv_ComboBox_currentIndexChanged(int index);
 
 private:
     void New_totadc();
+    void paintOutput();
 
-    QLabel* m_toadcdiv_Label = nullptr;
-    CustomComboBox1* m_toadcdiv_ComboBox = nullptr;
     CustomComboBox1* m_toadcswitch_ComboBox = nullptr;
     QLabel* m_toadc_Label = nullptr;
     QLineEdit* m_toadc_lineEdit = nullptr;

@@ -1,8 +1,7 @@
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 #include "canvas/appearance.h"
-#include "pages/ClockTreePage.h"
-#include "pages/styles.h"
+#include "pages/blocks/styles.h"
 
 namespace {
 constexpr int comboHeight = 25;
@@ -11,26 +10,24 @@ constexpr int boxHeight = 30;
 constexpr int multiplierSide = 30;
 } // namespace
 
-ClockBlock::ClockBlock(ClockTreePage& page) : m_page(page) {}
-
-ZN64ConfigCLK& ClockBlock::model() const
+bool ClockBlock::outOfRange(ClockSource clock) const
 {
-    return m_page.model();
+    return limits::breaksAny(description().painted, clock, clockValue(clock, model()), tree().normalMode());
 }
 
 QLabel* ClockBlock::label(const QString& name) const
 {
-    return m_page.placeLabel(name);
+    return m_tree.placeLabel(name);
 }
 
 QLabel* ClockBlock::labelIfPlaced(const QString& name) const
 {
-    return m_page.description().places.has(name) ? label(name) : nullptr;
+    return description().places.has(name) ? label(name) : nullptr;
 }
 
 QLineEdit* ClockBlock::boxEdit(const QString& name) const
 {
-    QLineEdit* edit = m_page.placeEdit(name);
+    QLineEdit* edit = m_tree.placeEdit(name);
     edit->setMaximumWidth(boxWidth);
     edit->setFixedHeight(boxHeight);
     return edit;
@@ -38,12 +35,12 @@ QLineEdit* ClockBlock::boxEdit(const QString& name) const
 
 QLineEdit* ClockBlock::outputEdit(const QString& name) const
 {
-    return m_page.placeOutput(name);
+    return m_tree.placeOutput(name);
 }
 
 QLineEdit* ClockBlock::multiplierEdit(const QString& name) const
 {
-    QLineEdit* edit = m_page.placeEdit(name);
+    QLineEdit* edit = m_tree.placeEdit(name);
     edit->setReadOnly(true);
     edit->setFixedSize(multiplierSide, multiplierSide);
     edit->setStyleSheet(styles::multiplierBox());
@@ -52,7 +49,7 @@ QLineEdit* ClockBlock::multiplierEdit(const QString& name) const
 
 CustomComboBox1* ClockBlock::combo(const QString& name, const QStringList& items) const
 {
-    CustomComboBox1* box = m_page.placeCombo(name);
+    CustomComboBox1* box = m_tree.placeCombo(name);
     box->addItems(items);
     box->setFixedHeight(comboHeight);
     return box;
@@ -60,7 +57,7 @@ CustomComboBox1* ClockBlock::combo(const QString& name, const QStringList& items
 
 QRadioButton* ClockBlock::radio(const QString& name, QButtonGroup* group) const
 {
-    QRadioButton* button = m_page.placeRadio(name);
+    QRadioButton* button = m_tree.placeRadio(name);
     group->addButton(button);
     return button;
 }
@@ -74,12 +71,12 @@ QButtonGroup* ClockBlock::buttonGroup(const QString& name)
 
 void ClockBlock::addControls(const char* routine, std::function<void()> make)
 {
-    m_page.addControls(routine, std::move(make));
+    m_tree.addControls(routine, std::move(make));
 }
 
 void ClockBlock::addSetting(const char* name, Setting setting)
 {
-    m_page.addSetting(name, std::move(setting));
+    m_tree.addSetting(name, std::move(setting));
 }
 
 void ClockBlock::showRadios(const std::vector<QRadioButton*>& radios, bool on)

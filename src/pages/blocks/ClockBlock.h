@@ -1,28 +1,20 @@
 #pragma once
 
-#include "canvas/CustomQControl.h"
-#include "pages/settings.h"
+#include "pages/blocks/ClockTree.h"
 
 #include <QButtonGroup>
-#include <QLabel>
-#include <QLineEdit>
 #include <QObject>
-#include <QRadioButton>
 
 #include <vector>
 
-class ClockTreePage;
-struct PageDescription;
-class ZN64ConfigCLK;
-
 /// One subject of the clock tree: its controls, its rules of what is grey, its slots, its results and its
-/// settings. A block never looks at another one; what it must know of the rest of the tree it asks the page.
+/// settings. A block never looks at another one; what it must know of the rest it asks the tree.
 class ClockBlock : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ClockBlock(ClockTreePage& page);
+    explicit ClockBlock(ClockTree& tree) : m_tree(tree) {}
 
     virtual void ControlsConnectSlots() {}
     /// Greys what the present choices leave unused, and enables the rest.
@@ -33,10 +25,17 @@ public:
     virtual bool usesPll() const { return false; }
     /// Whether the block takes hext at present, other than through the PLL.
     virtual bool usesHext() const { return false; }
+    /// Shows what a search for PLL parameters found, by the PLL's mode.
+    virtual void Update_Normal_Controls() {}
+    virtual void Update_Flexible_Controls() {}
 
 protected:
-    ClockTreePage& page() const { return m_page; }
-    ZN64ConfigCLK& model() const;
+    ClockTree& tree() const { return m_tree; }
+    ZN64ConfigCLK& model() const { return m_tree.clocks(); }
+    const PageDescription& description() const { return m_tree.description(); }
+
+    /// Whether the clock breaks a limit that is painted red.
+    bool outOfRange(ClockSource clock) const;
 
     // Controls at their places, with their member names as object names.
 
@@ -52,7 +51,7 @@ protected:
     QRadioButton* radio(const QString& name, QButtonGroup* group) const;
     QButtonGroup* buttonGroup(const QString& name);
 
-    /// Registers the routine that makes some of the block's controls; it runs if the series lists it.
+    /// Registers the routine that makes some of the block's controls; all routines run in one order.
     void addControls(const char* routine, std::function<void()> make);
     void addSetting(const char* name, Setting setting);
 
@@ -61,17 +60,11 @@ protected:
     static void showPin(QLabel* pin, bool on);
 
 private:
-    ClockTreePage& m_page;
+    ClockTree& m_tree;
 };
 
 /// "  /1", "  /1.5": the items of a list of divisors.
 QStringList divisorItems(const std::vector<double>& divisors, const QString& prefix = QStringLiteral("  /"));
-/// A fixed list of divisors as the pages use it.
-template <class List>
-std::vector<double> listOf(const List& list)
-{
-    return {list.begin(), list.end()};
-}
 /// The place of the value in the list, 0 if it is not there.
 int indexIn(const std::vector<double>& list, double value);
 /// The value at the index, the first one's if there is no such index.

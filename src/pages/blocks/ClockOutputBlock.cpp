@@ -1,7 +1,7 @@
-#include "ClockOutputBlock.h"
+#include "pages/blocks/ClockOutputBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
-#include "pages/ClockTreePage.h"
 
 #include <algorithm>
 
@@ -15,70 +15,66 @@ QString bracketed(double frequency, const char* unit)
 
 } // namespace
 
-ClockOutputBlock::ClockOutputBlock(ClockTreePage& page, const ClockOutputDescription& description)
-    : ClockBlock(page), m_description(description)
+ClockOutputBlock::ClockOutputBlock(ClockTree& tree, const ClockOutput& output)
+    : ClockBlock(tree), m_output(output)
 {
-    const QByteArray stem = QByteArray("New_") + description.stem;
-    addControls((stem + "pinselect").constData(), [this] { New_clockoutpinselect(); });
-    addControls(stem.constData(), [this] { New_clockout(); });
-    for (const ClockOutputDivider& divider : description.dividers)
-        addControls(divider.step, [this, &divider] { New_clockoutdiv(divider); });
+    const QByteArray routine = QByteArray("New_") + output.stem;
+    addControls((routine + "pinselect").constData(), [this] { New_clockoutpinselect(); });
+    addControls(routine.constData(), [this] { New_clockout(); });
 }
 
 QString ClockOutputBlock::member(const char* rest) const
 {
-    return QLatin1String("m_") + QLatin1String(m_description.stem) + QLatin1String(rest);
+    return QLatin1String("m_") + QLatin1String(m_output.stem) + QLatin1String(rest);
 }
 
 void ClockOutputBlock::New_clockoutpinselect()
 {
     QStringList pins{QStringLiteral("none")};
-    for (const char* pin : m_description.pins)
-        pins << QLatin1String(pin);
+    for (const PinChoice& pin : m_output.pins)
+        pins << QLatin1String(pin.text);
     m_pin = combo(member("pin_ComboBox"), pins);
     label(member("pin_Label"));
     m_pinValue = label(member("_Value_QLabel"));
     ZN64MCUPLL::SetLabelColor(m_pinValue, Qt::darkGreen);
-    addSetting(m_description.pinSetting,
+    addSetting(m_output.pinSetting,
                settings::whole(
-                   model(), m_description.pinField,
-                   [this](double index) { m_pin->setCurrentIndex(static_cast<int>(index)); },
+                   model(), m_output.pinField, [this](double number) { showPinOf(static_cast<int>(number)); },
                    settings::unchecked()));
+}
+
+void ClockOutputBlock::showPinOf(int number)
+{
+    if (!m_output.pinsByText) {
+        m_pin->setCurrentIndex(number);
+        return;
+    }
+    // A pin that the series lacks leaves the box alone; so does "NONE", which is not the text of an item.
+    const auto pin = std::find_if(m_output.pins.begin(), m_output.pins.end(),
+                                  [number](const PinChoice& each) { return each.number == number; });
+    if (pin != m_output.pins.end())
+        m_pin->setCurrentText(QLatin1String(pin->text));
 }
 
 void ClockOutputBlock::New_clockout()
 {
     QButtonGroup* group = buttonGroup(member("_ButtonGroup"));
-    for (const ClockOutputRow& source : m_description.rows) {
+    for (const ClockOutputRow& source : m_output.rows) {
         m_rows.push_back(makeRow(source, group));
         m_choices.push_back({source.value, m_rows.back().radio});
     }
     m_title = label(member("_QLabel"));
-    addSetting(m_description.setting,
-               settings::radios(model(), m_description.field, m_choices,
-                                settings::oneOf(valuesOf(m_choices), m_description.rows.front().value)));
+    addSetting(m_output.setting,
+               settings::radios(model(), m_output.field, m_choices,
+                                settings::oneOf(valuesOf(m_choices), m_output.rows.front().value)));
 }
 
 ClockOutputBlock::Row ClockOutputBlock::makeRow(const ClockOutputRow& source, QButtonGroup* group) const
 {
     const QString stem = member("_") + QLatin1String(source.name);
-    QLabel* value = source.source == OutputSource::None ? nullptr : label(stem + QLatin1String("_QLabel"));
+    QLabel* value = source.source == ClockSource::None ? nullptr : label(stem + QLatin1String("_QLabel"));
     return {source, radio(stem + QLatin1String("_RadioButton"), group),
             label(stem + QLatin1String("_QLabel1")), value};
-}
-
-void ClockOutputBlock::New_clockoutdiv(const ClockOutputDivider& divider)
-{
-    const QString stem = QLatin1String(divider.control);
-    QLabel* name = label(stem + QLatin1String("_Label"));
-    CustomComboBox1* box = combo(stem + QLatin1String("_ComboBox"), divisorItems(divider.divisors));
-    m_dividers.push_back({divider, name, box});
-    addSetting(divider.setting, settings::whole(
-                                    model(), divider.field,
-                                    [box, &divider](double divisor) {
-                                        box->setCurrentIndex(indexIn(divider.divisors, divisor));
-                                    },
-                                    settings::oneOf(divider.divisors, divider.divisors.front())));
 }
 
 void ClockOutputBlock::ControlsConnectSlots()
@@ -87,9 +83,6 @@ void ClockOutputBlock::ControlsConnectSlots()
         connect(row.radio, SIGNAL(toggled(bool)), this, SLOT(clkout_RadioButton_checkSlot(bool)));
     connect(m_pin, SIGNAL(currentIndexChanged(int)), this,
             SLOT(clockoutPinSelectComboBox_currentIndexChanged(int)));
-    for (const Divider& divider : m_dividers)
-        connect(divider.combo, SIGNAL(currentIndexChanged(int)), this,
-                SLOT(clockoutdiv_ComboBox_currentIndexChanged(int)));
 }
 
 const ClockOutputBlock::Row* ClockOutputBlock::checkedRow() const
@@ -99,17 +92,24 @@ const ClockOutputBlock::Row* ClockOutputBlock::checkedRow() const
     return row != m_rows.end() ? &*row : nullptr;
 }
 
-bool ClockOutputBlock::sourceIsOff(OutputSource source) const
+bool ClockOutputBlock::isOff(const ClockOutputRow& source) const
 {
-    return (source == OutputSource::Usb && !page().usbOn()) ||
-           (source == OutputSource::Adc && !page().adcOn());
+    switch (source.gate) {
+    case RowGate::None:
+        return false;
+    case RowGate::Usb:
+        return !tree().usbOn();
+    case RowGate::Adc:
+        return !tree().adcOn();
+    }
+    return false;
 }
 
 void ClockOutputBlock::fallBackFromOffSource()
 {
     const Row* row = checkedRow();
-    if (row && sourceIsOff(row->source.source))
-        checkValue(m_choices, m_description.fallback);
+    if (row && isOff(row->source))
+        checkValue(m_choices, m_output.fallback);
 }
 
 void ClockOutputBlock::UI_Display()
@@ -117,7 +117,7 @@ void ClockOutputBlock::UI_Display()
     fallBackFromOffSource();
     const bool set = pinSet();
     for (const Row& row : m_rows) {
-        const bool on = set && !sourceIsOff(row.source.source);
+        const bool on = set && !isOff(row.source);
         showRadios({row.radio}, on);
         row.name->setEnabled(on);
         if (row.value)
@@ -125,10 +125,6 @@ void ClockOutputBlock::UI_Display()
     }
     m_pinValue->setEnabled(set);
     m_title->setEnabled(set);
-    for (const Divider& divider : m_dividers) {
-        divider.label->setEnabled(set);
-        divider.combo->setEnabledStatus(set);
-    }
 }
 
 bool ClockOutputBlock::usesPll() const
@@ -136,14 +132,14 @@ bool ClockOutputBlock::usesPll() const
     const Row* row = checkedRow();
     if (!row || !pinSet())
         return false;
-    const OutputSource source = row->source.source;
-    return source == OutputSource::Pll || source == OutputSource::PllDiv2 || source == OutputSource::PllDiv4;
+    const ClockSource source = row->source.source;
+    return source == ClockSource::Pll || source == ClockSource::PllDiv2 || source == ClockSource::PllDiv4;
 }
 
 bool ClockOutputBlock::usesHext() const
 {
     const Row* row = checkedRow();
-    return row && pinSet() && row->source.source == OutputSource::Hext;
+    return row && pinSet() && row->source.source == ClockSource::Hext;
 }
 
 void ClockOutputBlock::UpdateResultControls()
@@ -155,85 +151,41 @@ void ClockOutputBlock::UpdateResultControls()
     for (const Row& row : m_rows)
         if (row.value)
             row.value->setVisible(&row == checked);
-    const std::optional<Frequency> frequency =
-        checked ? frequencyOf(checked->source.source) : std::optional<Frequency>();
+    const std::optional<ClockReading> clock =
+        checked ? reading(checked->source.source) : std::optional<ClockReading>();
     if (checked && checked->value)
-        appearance::setText(checked->value,
-                            frequency ? bracketed(frequency->value, frequency->unit) : QString());
-    appearance::setText(m_pinValue,
-                        frequency ? bracketed(divided(frequency->value), frequency->unit) : QString());
+        appearance::setText(checked->value, clock ? bracketed(clock->value, clock->unit) : QString());
+    appearance::setText(m_pinValue, clock ? bracketed(divided(clock->value), clock->unit) : QString());
 }
 
-std::optional<ClockOutputBlock::Frequency> ClockOutputBlock::frequencyOf(OutputSource source) const
+std::optional<ClockReading> ClockOutputBlock::reading(ClockSource source) const
 {
-    switch (source) {
-    case OutputSource::None:
+    if (source == ClockSource::Lext && m_output.lextNeedsRtc && !(tree().rtcOn() && tree().rtcFromLext()))
         return {};
-    case OutputSource::Lick:
-        return Frequency{model().Get_Lick_Input_Value(), "kHz"};
-    case OutputSource::Lext:
-        return Frequency{model().Get_Lext_Input_Value(), "kHz"};
-    case OutputSource::Hick:
-        return Frequency{hickFrequency(), "MHz"};
-    case OutputSource::Hext:
-        return Frequency{model().Get_Hext_Input_Value(), "MHz"};
-    case OutputSource::Sclk:
-        return Frequency{model().Get_SYSCLKValue(), "MHz"};
-    case OutputSource::Usb:
-        return Frequency{model().Get_USBCLKValue(), "MHz"};
-    case OutputSource::Adc:
-        // Without a divider of the ADC on the page nobody knows what the ADC makes of its clock.
-        if (page().description().adcDivisors.empty())
-            return {};
-        return Frequency{model().Get_ADCCLK_Value(), "MHz"};
-    case OutputSource::PllDiv2:
-        return Frequency{model().Get_PLLCLKValue() / 2.0, "MHz"};
-    case OutputSource::PllDiv4:
-        return Frequency{model().Get_PLLCLKValue() / 4.0, "MHz"};
-    case OutputSource::Pll:
-        return Frequency{model().Get_PLLCLKValue(), "MHz"};
-    }
-    return {};
-}
-
-double ClockOutputBlock::hickFrequency() const
-{
-    if (m_description.hick == HickAtOutput::Always8)
-        return 8.0;
-    const bool undivided = page().usbFromHick() || (page().sclkFromHick() && page().hickUndivided()) ||
-                           (page().sclkFromPll() && !page().hextFeedsPll());
-    return undivided ? 48.0 : 8.0;
+    return frequencyOf(source, model(), tree().hickAtOutputs());
 }
 
 double ClockOutputBlock::divided(double frequency) const
 {
-    if (m_dividers.empty())
-        return frequency;
-    for (const ClockOutputDivider& divider : m_description.dividers)
+    for (const Divider& divider : m_output.dividers)
         frequency /= divider.field.get(model());
     return frequency;
 }
 
 void ClockOutputBlock::clkout_RadioButton_checkSlot(bool on)
 {
-    page().UI_Display();
+    tree().UI_Display();
     if (!on)
         return;
-    m_description.field.set(model(), checkedValue(m_choices));
-    page().UpdateCalculateResult();
+    m_output.field.set(model(), checkedValue(m_choices));
+    tree().UpdateCalculateResult();
 }
 
-void ClockOutputBlock::clockoutPinSelectComboBox_currentIndexChanged(int)
+void ClockOutputBlock::clockoutPinSelectComboBox_currentIndexChanged(int index)
 {
-    page().UI_Display();
-    m_description.pinField.set(model(), m_pin->currentIndex());
-    page().UpdateCalculateResult();
-}
-
-void ClockOutputBlock::clockoutdiv_ComboBox_currentIndexChanged(int)
-{
-    for (const Divider& divider : m_dividers)
-        divider.description.field.set(model(),
-                                      valueAt(divider.description.divisors, divider.combo->currentIndex()));
-    page().UpdateCalculateResult();
+    tree().UI_Display();
+    const auto place = static_cast<std::size_t>(index);
+    m_output.pinField.set(
+        model(), index > 0 && place <= m_output.pins.size() ? m_output.pins[place - 1].number : index);
+    tree().UpdateCalculateResult();
 }

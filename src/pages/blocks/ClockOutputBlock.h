@@ -1,15 +1,14 @@
 #pragma once
 
-#include "ClockBlock.h"
-#include "pages/pagedescription.h"
+#include "pages/blocks/ClockBlock.h"
 
-/// One clock output: its pin, source, dividers, and the frequencies at the source and at the pin.
+/// One clock output: its pin, its source, and the frequencies at the source and at the pin.
 class ClockOutputBlock : public ClockBlock
 {
     Q_OBJECT
 
 public:
-    ClockOutputBlock(ClockTreePage& page, const ClockOutputDescription& description);
+    ClockOutputBlock(ClockTree& tree, const ClockOutput& output);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
@@ -21,47 +20,32 @@ public:
 
 private slots:
     void clkout_RadioButton_checkSlot(bool on);
-    void clockoutPinSelectComboBox_currentIndexChanged(int);
-    void clockoutdiv_ComboBox_currentIndexChanged(int);
+    void clockoutPinSelectComboBox_currentIndexChanged(int index);
 
 private:
     struct Row
     {
-        ClockOutputRow source;
+        const ClockOutputRow& source;
         QRadioButton* radio;
         QLabel* name;
         QLabel* value; ///< null for no clock
     };
-    struct Divider
-    {
-        const ClockOutputDivider& description;
-        QLabel* label;
-        CustomComboBox1* combo;
-    };
-    /// A frequency at a source with its unit; nothing where it has none to show.
-    struct Frequency
-    {
-        double value;
-        const char* unit;
-    };
 
     void New_clockoutpinselect();
     void New_clockout();
-    void New_clockoutdiv(const ClockOutputDivider& divider);
     Row makeRow(const ClockOutputRow& source, QButtonGroup* group) const;
     QString member(const char* rest) const;
+    void showPinOf(int number);
     const Row* checkedRow() const;
-    bool sourceIsOff(OutputSource source) const;
+    bool isOff(const ClockOutputRow& source) const;
     void fallBackFromOffSource();
-    std::optional<Frequency> frequencyOf(OutputSource source) const;
-    double hickFrequency() const;
+    std::optional<ClockReading> reading(ClockSource source) const;
     double divided(double frequency) const;
 
-    const ClockOutputDescription& m_description;
+    const ClockOutput& m_output;
     CustomComboBox1* m_pin = nullptr;
     QLabel* m_pinValue = nullptr;
     QLabel* m_title = nullptr;
     std::vector<Row> m_rows;
     std::vector<RadioChoice> m_choices;
-    std::vector<Divider> m_dividers;
 };

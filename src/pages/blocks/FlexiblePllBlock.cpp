@@ -1,22 +1,17 @@
-#include "FlexiblePllBlock.h"
+#include "pages/blocks/FlexiblePllBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
 #include "model/divisors.h"
 #include "model/seriestraits.h"
-#include "pages/ClockTreePage.h"
-#include "pages/inputlimits.h"
-#include "pages/styles.h"
+#include "pages/blocks/styles.h"
+#include "pages/description/inputlimits.h"
 
 namespace {
 constexpr int editWidth = 60;
 constexpr int editHeight = 25;
 constexpr int registerWidth = 100;
 constexpr int registerHeight = 20;
-const std::vector<double>& outputDivisors()
-{
-    static const std::vector<double> list = listOf(divisors::pllFr);
-    return list;
-}
 } // namespace
 
 int FlexiblePllBlock::Parameter::typed() const
@@ -32,7 +27,7 @@ void FlexiblePllBlock::Parameter::write(int value) const
     appearance::setText(edit, sign + QString::number(value));
 }
 
-FlexiblePllBlock::FlexiblePllBlock(ClockTreePage& page) : ClockBlock(page)
+FlexiblePllBlock::FlexiblePllBlock(ClockTree& tree) : ClockBlock(tree)
 {
     m_ms.sign = QLatin1Char('/');
     m_ms.lowest = divisors::pllMsMin;
@@ -46,28 +41,27 @@ FlexiblePllBlock::FlexiblePllBlock(ClockTreePage& page) : ClockBlock(page)
     m_ns.error = "pll_ns input error!";
     addControls("New_pll_ms", [this] { New_pll_ms(); });
     addControls("New_pll_ns", [this] { New_pll_ns(); });
-    addControls("New_pll_fr", [this] { New_pll_fr(); });
     addControls("New_pll_CFG", [this] { New_pll_CFG(); });
 }
 
 void FlexiblePllBlock::New_pll_ms()
 {
     makeParameter(m_ms, QStringLiteral("m_pllms"));
-    m_ms.edit->setValidator(inputlimits::pllMsValidator(&page()));
+    m_ms.edit->setValidator(inputlimits::pllMsValidator(tree().widget()));
     addSetting("pllms", parameterSetting(m_ms));
 }
 
 void FlexiblePllBlock::New_pll_ns()
 {
     makeParameter(m_ns, QStringLiteral("m_pllns"));
-    m_ns.edit->setValidator(inputlimits::pllNsValidator(&page()));
+    m_ns.edit->setValidator(inputlimits::pllNsValidator(tree().widget()));
     addSetting("pllns", parameterSetting(m_ns));
 }
 
 void FlexiblePllBlock::makeParameter(Parameter& parameter, const QString& stem)
 {
     parameter.name = label(stem + QLatin1String("_Label1"));
-    parameter.edit = page().placeEdit(stem + QLatin1String("_lineEdit"));
+    parameter.edit = tree().placeEdit(stem + QLatin1String("_lineEdit"));
     parameter.edit->setFixedSize(editWidth, editHeight);
     parameter.edit->setStyleSheet(styles::createdPllEdit());
     parameter.range = label(stem + QLatin1String("_Label2"));
@@ -87,23 +81,11 @@ Setting FlexiblePllBlock::parameterSetting(const Parameter& parameter)
     return setting;
 }
 
-void FlexiblePllBlock::New_pll_fr()
-{
-    m_pllfr_Label = label(QStringLiteral("m_pllfr_Label"));
-    m_pllfr_ComboBox = combo(QStringLiteral("m_pllfr_ComboBox"), divisorItems(outputDivisors()));
-    addSetting("pllfr", settings::whole(
-                            model(), MODEL_FIELD(PLL_FR),
-                            [this](double divisor) {
-                                m_pllfr_ComboBox->setCurrentIndex(indexIn(outputDivisors(), divisor));
-                            },
-                            settings::oneOf(outputDivisors(), outputDivisors().front())));
-}
-
 void FlexiblePllBlock::New_pll_CFG()
 {
     // The edit reaches below the end of the label: the label lies on top, and the digits keep to the right of
     // it.
-    m_pllCFG_Value_lineEdit = page().placeEdit(QStringLiteral("m_pllCFG_Value_lineEdit"));
+    m_pllCFG_Value_lineEdit = tree().placeEdit(QStringLiteral("m_pllCFG_Value_lineEdit"));
     m_pllCFG_Value_lineEdit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_pllCFG_Value_lineEdit->setReadOnly(true);
     m_pllCFG_Value_lineEdit->setFixedSize(registerWidth, registerHeight);
@@ -119,17 +101,13 @@ void FlexiblePllBlock::ControlsConnectSlots()
     connect(m_ns.edit, SIGNAL(returnPressed()), this, SLOT(pllns_LineEdit_returnPressed()));
     connect(m_ns.edit, SIGNAL(textChanged(const QString&)), this,
             SLOT(pllns_LineEdit_textChanged(const QString&)));
-    connect(m_pllfr_ComboBox, SIGNAL(currentIndexChanged(int)), this,
-            SLOT(pllfr_ComboBox_currentIndexChanged(int)));
 }
 
 void FlexiblePllBlock::UI_Display()
 {
-    const bool on = page().pllInUse();
+    const bool on = tree().pllInUse();
     show(m_ms, on);
     show(m_ns, on);
-    m_pllfr_Label->setEnabled(on);
-    m_pllfr_ComboBox->setEnabledStatus(on);
     m_pllCFG_Label->setEnabled(on);
     m_pllCFG_Value_lineEdit->setEnabled(on);
 }
@@ -152,7 +130,6 @@ void FlexiblePllBlock::Update_Flexible_Controls()
 {
     m_ms.write(model().Get_PLL_MS());
     m_ns.write(model().Get_PLL_NS());
-    m_pllfr_ComboBox->setCurrentIndex(indexIn(outputDivisors(), model().Get_PLL_FR()));
 }
 
 bool FlexiblePllBlock::takeTypedParameters()
@@ -165,12 +142,12 @@ bool FlexiblePllBlock::takeMs(int& ms)
 {
     ms = m_ms.typed();
     if (!m_ms.inRange(ms)) {
-        page().showError(m_ms.error);
+        tree().showError(m_ms.error);
         return false;
     }
     int corrected = 0;
     if (!model().PLL_MS_Valid_Check(ms, corrected)) {
-        if (!page().askToContinue(QMessageBox::Question,
+        if (!tree().askToContinue(QMessageBox::Question,
                                   "pll_ms input error, is it adjusted automatically?\nThe following "
                                   "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz"))
             return false;
@@ -185,13 +162,13 @@ bool FlexiblePllBlock::takeNs(int ms)
 {
     int ns = m_ns.typed();
     if (!m_ns.inRange(ns)) {
-        page().showError(m_ns.error);
+        tree().showError(m_ns.error);
         return false;
     }
     int corrected = 0;
     if (!model().PLL_NS_Valid_Check(ns, ms, corrected)) {
         const bool wide = model().traits().vco_1200;
-        if (!page().askToContinue(QMessageBox::Question,
+        if (!tree().askToContinue(QMessageBox::Question,
                                   wide ? "pll_ns input error, is it adjusted automatically?\n\nThe following "
                                          "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= "
                                          "1200MHz"
@@ -209,12 +186,12 @@ bool FlexiblePllBlock::takeNs(int ms)
 void FlexiblePllBlock::commit(const Parameter& parameter)
 {
     if (!parameter.inRange(parameter.typed())) {
-        page().showError(parameter.error);
+        tree().showError(parameter.error);
         return;
     }
-    if (!page().readHextForPll())
+    if (!tree().readHextForPll())
         return;
-    page().UpdateCalculateResult();
+    tree().UpdateCalculateResult();
     paintTyped(parameter);
 }
 
@@ -252,12 +229,4 @@ void FlexiblePllBlock::pllms_LineEdit_textChanged(const QString&)
 void FlexiblePllBlock::pllns_LineEdit_textChanged(const QString&)
 {
     paintTyped(m_ns);
-}
-
-void FlexiblePllBlock::pllfr_ComboBox_currentIndexChanged(int index)
-{
-    if (!page().readHextForPll())
-        return;
-    model().Set_PLL_FR(static_cast<int>(valueAt(outputDivisors(), index)));
-    page().UpdateCalculateResult();
 }

@@ -1,21 +1,21 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
-/// The flexible PLL: MS, NS, the output divider, and the register value that they make.
+/// The flexible PLL: MS, NS, and the register value that they make with the output divider.
 class FlexiblePllBlock : public ClockBlock
 {
     Q_OBJECT
 
 public:
-    explicit FlexiblePllBlock(ClockTreePage& page);
+    explicit FlexiblePllBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
     void UpdateResultControls() override;
 
     /// Shows the parameters that a solver found.
-    void Update_Flexible_Controls();
+    void Update_Flexible_Controls() override;
     /// Checks the typed MS and NS and takes them over. A value in range that breaks a limit of the PLL is
     /// corrected if the user agrees. False if a value stays bad.
     bool takeTypedParameters();
@@ -25,7 +25,6 @@ private slots:
     void pllns_LineEdit_returnPressed();
     void pllms_LineEdit_textChanged(const QString&);
     void pllns_LineEdit_textChanged(const QString&);
-    void pllfr_ComboBox_currentIndexChanged(int index);
 
 private:
     /// One of the two typed parameters.
@@ -47,7 +46,6 @@ private:
 
     void New_pll_ms();
     void New_pll_ns();
-    void New_pll_fr();
     void New_pll_CFG();
     void makeParameter(Parameter& parameter, const QString& stem);
     Setting parameterSetting(const Parameter& parameter);
@@ -59,8 +57,6 @@ private:
 
     Parameter m_ms;
     Parameter m_ns;
-    QLabel* m_pllfr_Label = nullptr;
-    CustomComboBox1* m_pllfr_ComboBox = nullptr;
     QLabel* m_pllCFG_Label = nullptr;
     QLineEdit* m_pllCFG_Value_lineEdit = nullptr;
 };

@@ -1,8 +1,6 @@
-#include "HickRouteBlock.h"
+#include "pages/blocks/HickRouteBlock.h"
 
-#include "pages/ClockTreePage.h"
-
-HickRouteBlock::HickRouteBlock(ClockTreePage& page) : ClockBlock(page)
+HickRouteBlock::HickRouteBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_hicktosclk", [this] { New_hicktosclk(); });
 }
@@ -30,7 +28,7 @@ void HickRouteBlock::ControlsConnectSlots()
 
 void HickRouteBlock::UI_Display()
 {
-    const bool on = page().sclkFromHick();
+    const bool on = tree().sclkFromHick();
     m_hicktosclk_Label->setEnabled(on);
     showRadios({m_hicktosclk_div6_RadioButton, m_hicktosclk_RadioButton}, on);
 }
@@ -38,5 +36,5 @@ void HickRouteBlock::UI_Display()
 void HickRouteBlock::hicktosclk_RadioButton_checkSlot(bool)
 {
     model().Set_HICK_TO_SCLK(checkedValue(m_hicktosclkChoices));
-    page().UpdateCalculateResult();
+    tree().UpdateCalculateResult();
 }

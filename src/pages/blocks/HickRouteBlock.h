@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 /// The route of hick to the system clock: divided by 6 or undivided.
 class HickRouteBlock : public ClockBlock
@@ -8,7 +8,7 @@ class HickRouteBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit HickRouteBlock(ClockTreePage& page);
+    explicit HickRouteBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;

@@ -1,11 +1,11 @@
-#include "HighSpeedBlock.h"
+#include "pages/blocks/HighSpeedBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
-#include "pages/ClockTreePage.h"
-#include "pages/inputlimits.h"
-#include "pages/styles.h"
+#include "pages/blocks/styles.h"
+#include "pages/description/inputlimits.h"
 
-HighSpeedBlock::HighSpeedBlock(ClockTreePage& page) : ClockBlock(page)
+HighSpeedBlock::HighSpeedBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_hext", [this] { New_hext(); });
     addControls("New_hextbypass", [this] { New_hextbypass(); });
@@ -15,11 +15,11 @@ HighSpeedBlock::HighSpeedBlock(ClockTreePage& page) : ClockBlock(page)
 void HighSpeedBlock::New_hext()
 {
     m_hext_Label1 = label(QStringLiteral("m_hext_Label1"));
-    m_hext_lineEdit = boxEdit(QStringLiteral("m_hext_lineEdit"));
+    m_hext_lineEdit = boxEdit(QLatin1String(description().hextEdit));
     m_hext_lineEdit->setFont(QFont(QStringLiteral("Arial"), 10, 75));
     m_hext_lineEdit->setMaxLength(8);
     m_hext_lineEdit->setStyleSheet(styles::createdHext());
-    m_hext_lineEdit->setValidator(inputlimits::frequencyValidator(&page()));
+    m_hext_lineEdit->setValidator(inputlimits::frequencyValidator(tree().widget()));
     m_hext_In = label(QStringLiteral("m_hext_In"));
     m_hext_Out = label(QStringLiteral("m_hext_Out"));
     showPin(m_hext_In, true);
@@ -72,12 +72,12 @@ void HighSpeedBlock::ControlsConnectSlots()
 
 void HighSpeedBlock::UI_Display()
 {
-    Show_hext(page().hextInUse());
+    Show_hext(tree().hextInUse());
 }
 
 void HighSpeedBlock::Show_hext(bool on)
 {
-    page().Set_Hext_Enable_Falg(on);
+    tree().tellHextInUse(on);
     if (on)
         hext_LineEdit_textChanged(m_hext_lineEdit->text());
     else
@@ -93,12 +93,12 @@ void HighSpeedBlock::Show_hext(bool on)
 bool HighSpeedBlock::Hext_Value_Valid(double& value)
 {
     const double hext = typed();
-    if (page().readingDesign() || inputlimits::hextInRange(hext)) {
+    if (tree().readingDesign() || inputlimits::hextInRange(hext)) {
         value = hext;
         return true;
     }
     value = 0.0;
-    page().showError("hext input error!");
+    tree().showError("hext input error!");
     return false;
 }
 
@@ -111,12 +111,12 @@ void HighSpeedBlock::correct(double hext)
 
 void HighSpeedBlock::hext_LineEdit_returnPressed()
 {
-    if (!page().readHext())
+    if (!tree().readHext())
         return;
-    if (!page().sclkFromPll() && page().usbFromPll())
-        page().searchUsb();
-    page().UpdateCalculateResult();
-    page().UpdateRTCParam();
+    if (!tree().sclkFromPll() && tree().usbFromPll())
+        tree().searchUsb();
+    tree().UpdateCalculateResult();
+    tree().UpdateRTCParam();
     appearance::setSheet(m_hext_lineEdit, styles::committed());
 }
 

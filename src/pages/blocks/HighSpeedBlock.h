@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 /// hext with its typed frequency and bypass, and hick.
 class HighSpeedBlock : public ClockBlock
@@ -8,7 +8,7 @@ class HighSpeedBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit HighSpeedBlock(ClockTreePage& page);
+    explicit HighSpeedBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;

@@ -1,15 +1,14 @@
-#include "LowSpeedBlock.h"
+#include "pages/blocks/LowSpeedBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
-#include "model/divisors.h"
-#include "pages/ClockTreePage.h"
-#include "pages/styles.h"
+#include "pages/blocks/styles.h"
 
 namespace {
 const QString off = QStringLiteral("0");
 } // namespace
 
-LowSpeedBlock::LowSpeedBlock(ClockTreePage& page) : ClockBlock(page)
+LowSpeedBlock::LowSpeedBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_lick", [this] { New_lick(); });
     addControls("New_towdt", [this] { New_towdt(); });
@@ -17,7 +16,6 @@ LowSpeedBlock::LowSpeedBlock(ClockTreePage& page) : ClockBlock(page)
     addControls("New_lext", [this] { New_lext(); });
     addControls("New_lextbypass", [this] { New_lextbypass(); });
     addControls("New_rtcsel", [this] { New_rtcsel(); });
-    addControls("New_rtcdiv", [this] { New_rtcdiv(); });
 }
 
 void LowSpeedBlock::New_lick()
@@ -88,18 +86,6 @@ void LowSpeedBlock::New_rtcsel()
                                           settings::oneOf(valuesOf(m_rtcselChoices), RTCSEL_LICK)));
 }
 
-void LowSpeedBlock::New_rtcdiv()
-{
-    m_rtcdiv_Label = label(QStringLiteral("m_rtcdiv_Label"));
-    m_rtcdiv_ComboBox = combo(QStringLiteral("m_rtcdiv_ComboBox"), divisorItems(listOf(divisors::rtc)));
-    addSetting("rtcdiv", settings::whole(
-                             model(), MODEL_FIELD(RTC_DIV),
-                             [this](double divisor) {
-                                 m_rtcdiv_ComboBox->setCurrentIndex(indexIn(listOf(divisors::rtc), divisor));
-                             },
-                             settings::oneOf(listOf(divisors::rtc), divisors::rtc.front())));
-}
-
 void LowSpeedBlock::ControlsConnectSlots()
 {
     for (const RadioChoice& choice : m_rtcselChoices)
@@ -108,20 +94,12 @@ void LowSpeedBlock::ControlsConnectSlots()
             SLOT(rtcswitch_ComboBox_currentIndexChanged(int)));
     connect(m_lextbypass_ComboBox, SIGNAL(currentIndexChanged(int)), this,
             SLOT(lextbypass_ComboBox_currentIndexChanged(int)));
-    if (m_rtcdiv_ComboBox)
-        connect(m_rtcdiv_ComboBox, SIGNAL(currentIndexChanged(int)), this,
-                SLOT(rtcdiv_ComboBox_currentIndexChanged(int)));
 }
 
 void LowSpeedBlock::UI_Display()
 {
     Show_lext(rtcOn() && lextSelected());
     Show_rtc(rtcOn());
-    if (m_rtcdiv_ComboBox) {
-        const bool divided = rtcOn() && hextSelected();
-        m_rtcdiv_Label->setEnabled(divided);
-        m_rtcdiv_ComboBox->setEnabledStatus(divided);
-    }
 }
 
 void LowSpeedBlock::Show_lext(bool on)
@@ -152,39 +130,29 @@ void LowSpeedBlock::UpdateRTCParam()
         appearance::setText(m_tortc_lineEdit, m_lext_lineEdit->text());
     } else if (hextSelected()) {
         double hext = 0.0;
-        const bool valid = page().Hext_Value_Valid(hext);
-        appearance::setText(m_tortc_lineEdit, valid ? frequencyText(hext * 1000.0 / rtcHextDivisor()) : off);
+        const bool valid = tree().Hext_Value_Valid(hext);
+        const double divisor = description().rtcHextDivisor.value_or(model().Get_RTC_DIV());
+        appearance::setText(m_tortc_lineEdit, valid ? frequencyText(hext * 1000.0 / divisor) : off);
     } else {
         appearance::setText(m_tortc_lineEdit, m_lick_lineEdit->text());
     }
 }
 
-double LowSpeedBlock::rtcHextDivisor() const
-{
-    return m_rtcdiv_ComboBox ? model().Get_RTC_DIV() : page().description().rtcHextDivisor;
-}
-
 void LowSpeedBlock::rtcsel_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     model().Set_RTCSEL(static_cast<RTCSEL>(checkedValue(m_rtcselChoices)));
     if (hextSelected())
-        page().hext_LineEdit_returnPressed();
+        tree().hext_LineEdit_returnPressed();
     UpdateRTCParam();
 }
 
 void LowSpeedBlock::rtcswitch_ComboBox_currentIndexChanged(int index)
 {
-    page().UI_Display();
+    tree().UI_Display();
     model().Set_ToRTC_Switch(index != 0);
     if (index != 0 && hextSelected())
-        page().hext_LineEdit_returnPressed();
-    UpdateRTCParam();
-}
-
-void LowSpeedBlock::rtcdiv_ComboBox_currentIndexChanged(int index)
-{
-    model().Set_RTC_DIV(static_cast<int>(valueAt(listOf(divisors::rtc), index)));
+        tree().hext_LineEdit_returnPressed();
     UpdateRTCParam();
 }
 

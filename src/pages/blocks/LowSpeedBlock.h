@@ -1,14 +1,14 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
-/// lick, lext and the RTC: selector, switch, divider of hext, and the outputs to the watchdog and the RTC.
+/// lick, lext and the RTC: selector, switch, and the outputs to the watchdog and the RTC.
 class LowSpeedBlock : public ClockBlock
 {
     Q_OBJECT
 
 public:
-    explicit LowSpeedBlock(ClockTreePage& page);
+    explicit LowSpeedBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
@@ -21,7 +21,6 @@ public:
 private slots:
     void rtcsel_RadioButton_checkSlot(bool);
     void rtcswitch_ComboBox_currentIndexChanged(int index);
-    void rtcdiv_ComboBox_currentIndexChanged(int index);
     void lextbypass_ComboBox_currentIndexChanged(int index);
 
 private:
@@ -31,10 +30,8 @@ private:
     void New_lext();
     void New_lextbypass();
     void New_rtcsel();
-    void New_rtcdiv();
     void Show_lext(bool on);
     void Show_rtc(bool on);
-    double rtcHextDivisor() const;
 
     QLineEdit* m_lick_lineEdit = nullptr;
     QLineEdit* m_towdt_lineEdit = nullptr;
@@ -52,6 +49,4 @@ private:
     QRadioButton* m_rtcsel_lext_RadioButton = nullptr;
     QRadioButton* m_rtcsel_hext_RadioButton = nullptr;
     std::vector<RadioChoice> m_rtcselChoices;
-    QLabel* m_rtcdiv_Label = nullptr;
-    CustomComboBox1* m_rtcdiv_ComboBox = nullptr;
 };

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
-#include "pages/pagedescription.h"
-
-#include <QDialog>
-#include <QPushButton>
+#include "pages/blocks/ClockBlock.h"
 
 /// The column of output frequencies, with the lists of the peripherals on each bus. At most one list is open.
 class OutputsBlock : public ClockBlock
@@ -12,7 +8,7 @@ class OutputsBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit OutputsBlock(ClockTreePage& page);
+    explicit OutputsBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UpdateResultControls() override;
@@ -21,17 +17,14 @@ public:
     void closeLists();
 
 private slots:
-    void toapb1peripheral_List_Button_checkSlot() { toggleList("m_toapb1peripheral_List_Button"); }
-    void toapb1tmr_List_Button_checkSlot() { toggleList("m_toapb1tmr_List_Button"); }
-    void toapb2peripheral_List_Button_checkSlot() { toggleList("m_toapb2peripheral_List_Button"); }
-    void toapb2tmr_List_Button_checkSlot() { toggleList("m_toapb2tmr_List_Button"); }
+    /// Opens the list of the button that was clicked, or closes it.
+    void List_Button_checkSlot();
 
 private:
     struct Output
     {
         QLineEdit* edit;
-        Clock clock;
-        double divisor;
+        const OutputEntry& entry;
     };
     struct List
     {
@@ -40,10 +33,8 @@ private:
     };
 
     void New_toperipheral();
-    void makeList(const ListGroup& description);
-    void toggleList(const char* button);
+    void makeList(const ListNames& names);
     static void showList(const List& list, bool open);
-    double limit(Clock clock) const;
 
     std::vector<Output> m_outputs;
     std::vector<List> m_lists;

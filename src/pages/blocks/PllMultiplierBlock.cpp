@@ -1,13 +1,12 @@
-#include "PllMultiplierBlock.h"
+#include "pages/blocks/PllMultiplierBlock.h"
 
 #include "model/divisors.h"
-#include "pages/ClockTreePage.h"
 
 namespace {
 constexpr int firstMultiplier = divisors::pllMul.front();
 }
 
-PllMultiplierBlock::PllMultiplierBlock(ClockTreePage& page) : ClockBlock(page)
+PllMultiplierBlock::PllMultiplierBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_pll_mult", [this] { New_pll_mult(); });
 }
@@ -47,7 +46,7 @@ void PllMultiplierBlock::ControlsConnectSlots()
 
 void PllMultiplierBlock::UI_Display()
 {
-    const bool on = page().pllInUse();
+    const bool on = tree().pllInUse();
     m_pllmult_Label->setEnabled(on);
     m_pllmult_ComboBox->setEnabledStatus(on);
 }
@@ -60,8 +59,8 @@ void PllMultiplierBlock::Update_Normal_Controls()
 
 void PllMultiplierBlock::pllmult_ComboBox_currentIndexChanged(int)
 {
-    if (!page().readHextForPll())
+    if (!tree().readHextForPll())
         return;
     model().Set_PLL_MUL(m_pllmult_ComboBox->currentIndex() + firstMultiplier);
-    page().UpdateCalculateResult();
+    tree().UpdateCalculateResult();
 }

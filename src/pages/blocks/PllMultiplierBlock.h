@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 /// The multiplier of the PLL's normal mode.
 class PllMultiplierBlock : public ClockBlock
@@ -8,13 +8,13 @@ class PllMultiplierBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit PllMultiplierBlock(ClockTreePage& page);
+    explicit PllMultiplierBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
 
     /// Shows the multiplier that a solver found.
-    void Update_Normal_Controls();
+    void Update_Normal_Controls() override;
 
 private slots:
     void pllmult_ComboBox_currentIndexChanged(int);

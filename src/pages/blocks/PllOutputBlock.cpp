@@ -1,16 +1,16 @@
-#include "PllOutputBlock.h"
+#include "pages/blocks/PllOutputBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
-#include "pages/ClockTreePage.h"
 
-PllOutputBlock::PllOutputBlock(ClockTreePage& page) : ClockBlock(page)
+PllOutputBlock::PllOutputBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_pllclk", [this] { m_pllclk_Label = label(QStringLiteral("m_pllclk_Label")); });
 }
 
 void PllOutputBlock::UI_Display()
 {
-    m_pllclk_Label->setEnabled(page().pllInUse());
+    m_pllclk_Label->setEnabled(tree().pllInUse());
 }
 
 void PllOutputBlock::UpdateResultControls()
@@ -21,6 +21,5 @@ void PllOutputBlock::UpdateResultControls()
     }
     const double pll = model().Get_PLLCLKValue();
     appearance::setText(m_pllclk_Label, frequencyText(pll) + QLatin1String("MHz"));
-    ZN64MCUPLL::SetLabelColor(m_pllclk_Label,
-                              pll > page().description().limits.pll ? Qt::red : Qt::darkGreen);
+    ZN64MCUPLL::SetLabelColor(m_pllclk_Label, outOfRange(ClockSource::Pll) ? Qt::red : Qt::darkGreen);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 /// The label with the PLL's output frequency.
 class PllOutputBlock : public ClockBlock
@@ -8,7 +8,7 @@ class PllOutputBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit PllOutputBlock(ClockTreePage& page);
+    explicit PllOutputBlock(ClockTree& tree);
 
     void UI_Display() override;
     void UpdateResultControls() override;

@@ -1,11 +1,11 @@
-#include "PllSourceBlock.h"
+#include "pages/blocks/PllSourceBlock.h"
 
-#include "pages/ClockTreePage.h"
-#include "pages/inputlimits.h"
+#include "pages/description/inputlimits.h"
 
-PllSourceBlock::PllSourceBlock(ClockTreePage& page) : ClockBlock(page)
+PllSourceBlock::PllSourceBlock(ClockTree& tree) : ClockBlock(tree)
 {
-    addControls("New_pllhextdiv", [this] { New_pllhextdiv(); });
+    if (description().pllHextDivider)
+        addControls("New_pllhextdiv", [this] { New_pllhextdiv(); });
     addControls("New_pllrcs", [this] { New_pllrcs(); });
 }
 
@@ -49,7 +49,7 @@ void PllSourceBlock::ControlsConnectSlots()
 
 void PllSourceBlock::UI_Display()
 {
-    const bool on = page().pllInUse();
+    const bool on = tree().pllInUse();
     m_pllrc_Label->setEnabled(on);
     showRadios({m_pllrcs_hext_RadioButton, m_pllrcs_hick_RadioButton}, on);
     if (m_pllhextdiv_Label) {
@@ -60,30 +60,30 @@ void PllSourceBlock::UI_Display()
 
 bool PllSourceBlock::PLLInputSourceClockCheck()
 {
-    if (page().readingDesign() || !model().pll_isEnable() || !hextSelected())
+    if (tree().readingDesign() || !model().pll_isEnable() || !hextSelected())
         return true;
     const double input = model().GetPllInPutValue();
     if (input >= inputlimits::pllInputMin && input <= inputlimits::pllInputMax)
         return true;
-    page().showError("pll input clock source range 2-16MHz!");
+    tree().showError("pll input clock source range 2-16MHz!");
     // Too high: 16 whatever divider is chosen, for the undivided limit is good with any of them.
-    page().correctHext(input < inputlimits::pllInputMin ? 2 * model().Get_HEXT_DIV()
+    tree().correctHext(input < inputlimits::pllInputMin ? 2 * model().Get_HEXT_DIV()
                                                         : inputlimits::pllInputMax);
     return false;
 }
 
 void PllSourceBlock::pllhextdiv_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     model().Set_PLLHEXTDIV(checkedValue(m_pllhextdivChoices));
-    if (page().readHextForPll())
-        page().keepTypedSysclk();
+    if (tree().readHextForPll())
+        tree().keepTypedSysclk();
 }
 
 void PllSourceBlock::pllrcs_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     model().Set_PLLRC(checkedValue(m_pllrcsChoices));
-    if (page().readHextForPll())
-        page().keepTypedSysclk();
+    if (tree().readHextForPll())
+        tree().keepTypedSysclk();
 }

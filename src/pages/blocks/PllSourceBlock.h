@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 /// The PLL's source, hext or hick, and on some series the choice of a divider of hext before it.
 class PllSourceBlock : public ClockBlock
@@ -8,12 +8,14 @@ class PllSourceBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit PllSourceBlock(ClockTreePage& page);
+    explicit PllSourceBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
 
     bool hextSelected() const { return m_pllrcs_hext_RadioButton->isChecked(); }
+    /// Whether hext passes its divider on the way to the PLL.
+    bool hextDivided() const { return m_pllhext_div_RadioButton && m_pllhext_div_RadioButton->isChecked(); }
     /// Whether the PLL's input from hext is within its limits. If not, it tells, corrects hext and repaints
     /// everything, so that the caller has nothing left to do.
     bool PLLInputSourceClockCheck();

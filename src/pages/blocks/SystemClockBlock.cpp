@@ -1,18 +1,20 @@
-#include "SystemClockBlock.h"
+#include "pages/blocks/SystemClockBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
-#include "pages/ClockTreePage.h"
-#include "pages/inputlimits.h"
-#include "pages/styles.h"
+#include "pages/blocks/styles.h"
+#include "pages/description/inputlimits.h"
 
 #include <QRegExpValidator>
 
 namespace {
 constexpr int editWidth = 80;
 constexpr int editHeight = 28;
+/// The warnings show above it, MHz.
+constexpr double warnedSysclk = 240.0;
 } // namespace
 
-SystemClockBlock::SystemClockBlock(ClockTreePage& page) : ClockBlock(page)
+SystemClockBlock::SystemClockBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_sclkselect", [this] { New_sclkselect(); });
     addControls("New_Result", [this] { New_Result(); });
@@ -42,18 +44,18 @@ void SystemClockBlock::New_sclkselect()
 void SystemClockBlock::New_Result()
 {
     label(QStringLiteral("m_sclk_Label"));
-    m_sclk_lineEdit = page().placeEdit(QStringLiteral("m_sclk_lineEdit"));
+    m_sclk_lineEdit = tree().placeEdit(QStringLiteral("m_sclk_lineEdit"));
     m_sclk_lineEdit->setFont(QFont(QStringLiteral("Arial"), 10, 75));
     m_sclk_lineEdit->setFixedSize(editWidth, editHeight);
     m_sclk_lineEdit->setMaxLength(9);
     m_sclk_lineEdit->setStyleSheet(styles::createdSysclk());
-    m_sclk_lineEdit->setValidator(inputlimits::frequencyValidator(&page()));
+    m_sclk_lineEdit->setValidator(inputlimits::frequencyValidator(tree().widget()));
     labelIfPlaced(QStringLiteral("m_sclkRange_Label"));
-    if (!page().description().limits.sysclkWarning)
+    if (!description().sclkWarnings)
         return;
     for (const char* name : {"m_sclkWarning1_QLabel", "m_sclkWarning2_QLabel", "m_sclkWarning3_QLabel"}) {
         QLabel* warning = label(QLatin1String(name));
-        warning->setText(page().translated(page().description().places.at(QLatin1String(name)).text));
+        warning->setText(tree().translated(warning->text().toLatin1().constData()));
         warning->setVisible(false);
         m_warnings.push_back(warning);
     }
@@ -75,28 +77,27 @@ void SystemClockBlock::ControlsConnectSlots()
 void SystemClockBlock::UpdateResultControls()
 {
     const double sysclk = model().Get_SYSCLKValue();
-    const PageLimits& limits = page().description().limits;
-    ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, sysclk > limits.sysclk ? Qt::red : Qt::darkGreen);
+    ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, outOfRange(ClockSource::Sclk) ? Qt::red : Qt::darkGreen);
     appearance::setText(m_sclk_lineEdit, frequencyText(sysclk));
     for (QLabel* warning : m_warnings)
-        warning->setVisible(sysclk > *limits.sysclkWarning);
+        warning->setVisible(sysclk > warnedSysclk);
 }
 
 bool SystemClockBlock::inRange(double sysclk) const
 {
-    const PageLimits& limits = page().description().limits;
-    return sysclk <= limits.sysclk && (!limits.lowestSysclk || sysclk >= *limits.lowestSysclk);
+    const TypedSclk& range = description().typedSclk;
+    return sysclk <= range.highest && (!range.lowest || sysclk >= *range.lowest);
 }
 
 bool SystemClockBlock::Result_SYSCLK_Valid(double& value)
 {
     const double sysclk = typed();
-    if (page().readingDesign() || inRange(sysclk)) {
+    if (tree().readingDesign() || inRange(sysclk)) {
         value = sysclk;
         return true;
     }
     value = 0.0;
-    page().showError("sclk input error!");
+    tree().showError("sclk input error!");
     return false;
 }
 
@@ -108,40 +109,40 @@ void SystemClockBlock::disableEdit()
 
 void SystemClockBlock::sclkselecthick_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     if (hickSelected()) {
         model().Set_SYSCLKSelect(SYSCLK_HICK);
         disableEdit();
-        page().UpdateCalculateResult();
+        tree().UpdateCalculateResult();
     }
-    page().UpdateParam_From_ResultCLK();
+    tree().UpdateParam_From_ResultCLK();
 }
 
 void SystemClockBlock::sclkselecthext_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     if (hextSelected()) {
         model().Set_SYSCLKSelect(SYSCLK_HEXT);
         disableEdit();
-        if (!page().readHext())
+        if (!tree().readHext())
             return;
-        page().UpdateCalculateResult();
+        tree().UpdateCalculateResult();
     }
-    page().UpdateParam_From_ResultCLK();
+    tree().UpdateParam_From_ResultCLK();
 }
 
 void SystemClockBlock::sclkselectpll_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     if (pllSelected()) {
         model().Set_SYSCLKSelect(SYSCLK_PLL);
         m_sclk_lineEdit->setEnabled(true);
         appearance::setSheet(m_sclk_lineEdit, styles::committed());
-        if (!page().readHextForPll())
+        if (!tree().readHextForPll())
             return;
-        page().UpdateCalculateResult();
+        tree().UpdateCalculateResult();
     }
-    page().UpdateParam_From_ResultCLK();
+    tree().UpdateParam_From_ResultCLK();
 }
 
 void SystemClockBlock::sclk_LineEdit_returnPressed()
@@ -152,12 +153,12 @@ void SystemClockBlock::sclk_LineEdit_returnPressed()
     if (!Result_SYSCLK_Valid(sysclk))
         return;
     model().Set_SYSCLKValue(sysclk);
-    if (!page().readHextForPll())
+    if (!tree().readHextForPll())
         return;
     model().CalculateParam_From_SYSCLK();
-    page().updatePllControls();
+    tree().updatePllControls();
     appearance::setSheet(m_sclk_lineEdit, styles::committedSysclk());
-    page().UpdateResultControls();
+    tree().UpdateResultControls();
 }
 
 void SystemClockBlock::sclk_LineEdit_textChanged(const QString& text)

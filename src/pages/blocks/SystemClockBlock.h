@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
 /// The system clock: its selector, the edit that shows the result and takes a wanted value, and the warnings.
 class SystemClockBlock : public ClockBlock
@@ -8,7 +8,7 @@ class SystemClockBlock : public ClockBlock
     Q_OBJECT
 
 public:
-    explicit SystemClockBlock(ClockTreePage& page);
+    explicit SystemClockBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UpdateResultControls() override;

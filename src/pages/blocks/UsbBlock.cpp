@@ -1,30 +1,14 @@
-#include "UsbBlock.h"
+#include "pages/blocks/UsbBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
-#include "pages/ClockTreePage.h"
 
-namespace {
-constexpr double usbClock = 48.0; // MHz, exactly
-}
-
-UsbBlock::UsbBlock(ClockTreePage& page) : ClockBlock(page)
+UsbBlock::UsbBlock(ClockTree& tree) : ClockBlock(tree)
 {
-    addControls("New_usbdiv", [this] { New_usbdiv(); });
-    addControls("New_tousb", [this] { New_tousb(); });
-    addControls("New_hicktousb", [this] { New_hicktousb(); });
-}
-
-void UsbBlock::New_usbdiv()
-{
-    const std::vector<double>& divisors = page().description().usbDivisors;
-    m_usbdiv_Label = label(QStringLiteral("m_usbdiv_Label"));
-    m_usbdiv_ComboBox = combo(QStringLiteral("m_usbdiv_ComboBox"), divisorItems(divisors));
-    addSetting("usbdiv", settings::decimal(
-                             model(), MODEL_FIELD(USBDIV),
-                             [this, &divisors](double divisor) {
-                                 m_usbdiv_ComboBox->setCurrentIndex(indexIn(divisors, divisor));
-                             },
-                             settings::oneOf(divisors, divisors.front())));
+    if (description().usb->hickRoute)
+        addControls("New_hicktousb", [this] { New_hicktousb(); });
+    else
+        addControls("New_tousb", [this] { New_tousb(); });
 }
 
 void UsbBlock::New_tousb()
@@ -58,8 +42,6 @@ void UsbBlock::New_hicktousb()
 
 void UsbBlock::ControlsConnectSlots()
 {
-    connect(m_usbdiv_ComboBox, SIGNAL(currentIndexChanged(int)), this,
-            SLOT(usbdiv_ComboBox_currentIndexChanged(int)));
     connect(m_tousbswitch_ComboBox, SIGNAL(currentIndexChanged(int)), this,
             SLOT(usbswitch_ComboBox_currentIndexChanged(int)));
     for (const RadioChoice& choice : m_tousbChoices)
@@ -69,8 +51,6 @@ void UsbBlock::ControlsConnectSlots()
 void UsbBlock::UI_Display()
 {
     m_usbclock_Label->setVisible(on());
-    m_usbdiv_Label->setEnabled(fromPll());
-    m_usbdiv_ComboBox->setEnabledStatus(fromPll());
     if (m_hicktousb_Label) {
         m_hicktousb_Label->setEnabled(on());
         showRadios({m_tousb_pll_RadioButton, m_tousb_hick_RadioButton}, on());
@@ -80,45 +60,43 @@ void UsbBlock::UI_Display()
 void UsbBlock::UpdateResultControls()
 {
     const double usb = model().Get_USBCLKValue();
-    ZN64MCUPLL::SetLabelColor(m_usbclock_Label, usb == usbClock ? Qt::darkGreen : Qt::red);
+    ZN64MCUPLL::SetLabelColor(m_usbclock_Label, usb == usbClockMHz ? Qt::darkGreen : Qt::red);
     appearance::setText(m_usbclock_Label, frequencyText(usb) + QLatin1String(" MHz"));
-    m_usbdiv_ComboBox->setCurrentIndex(indexIn(page().description().usbDivisors, model().Get_USBDIV()));
 }
 
-void UsbBlock::serveUsb()
+void UsbBlock::serveNewDemand()
 {
-    // A PLL that drives the system clock is not moved for USB.
-    if (page().sclkFromPll() || !fromPll()) {
-        page().UpdateCalculateResult();
+    if (!description().usb->movesBusyPll || !fromPll()) {
+        tree().serveUsb();
         return;
     }
-    if (!page().readHextForPll())
+    if (!tree().readHextForPll())
         return;
-    page().searchUsb();
-    page().UpdateResultControls();
-}
-
-void UsbBlock::usbdiv_ComboBox_currentIndexChanged(int index)
-{
-    model().Set_USBDIV(valueAt(page().description().usbDivisors, index));
-    serveUsb();
+    tree().searchUsb();
+    tree().UpdateResultControls();
 }
 
 void UsbBlock::usbswitch_ComboBox_currentIndexChanged(int index)
 {
     model().Set_TO_USB_Switch(index);
-    page().UI_Display();
+    tree().UI_Display();
     if (index == 0)
-        serveUsb();
+        serveNewDemand();
     else
-        page().UpdateParam_From_ResultCLK();
+        tree().UpdateParam_From_ResultCLK();
 }
 
 void UsbBlock::hicktousb_RadioButton_checkSlot(bool)
 {
-    page().UI_Display();
+    tree().UI_Display();
     model().Set_HICK_TO_USB(checkedValue(m_tousbChoices));
-    if (!pllSelected())
-        model().Set_USBCLKValue(usbClock);
-    serveUsb();
+    if (pllSelected()) {
+        serveNewDemand();
+        return;
+    }
+    model().Set_USBCLKValue(usbClockMHz);
+    if (description().usb->movesBusyPll)
+        tree().UpdateParam_From_ResultCLK();
+    else
+        tree().UpdateCalculateResult();
 }

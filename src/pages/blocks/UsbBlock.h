@@ -1,39 +1,36 @@
 #pragma once
 
-#include "ClockBlock.h"
+#include "pages/blocks/ClockBlock.h"
 
-/// The USB clock: divider, switch, on some series the choice between the PLL and hick, and the result.
+/// The USB clock: switch, on some series the choice between the PLL and hick, and the result.
 class UsbBlock : public ClockBlock
 {
     Q_OBJECT
 
 public:
-    explicit UsbBlock(ClockTreePage& page);
+    explicit UsbBlock(ClockTree& tree);
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
     void UpdateResultControls() override;
+    bool usesPll() const override { return fromPll(); }
 
     bool on() const { return m_tousbswitch_ComboBox->currentIndex() == 0; }
     bool fromPll() const { return on() && pllSelected(); }
     bool fromHick() const { return on() && !pllSelected(); }
 
 private slots:
-    void usbdiv_ComboBox_currentIndexChanged(int index);
     void usbswitch_ComboBox_currentIndexChanged(int index);
     void hicktousb_RadioButton_checkSlot(bool);
 
 private:
-    void New_usbdiv();
     void New_tousb();
     void New_hicktousb();
     /// A series without a choice of the source always takes the PLL.
     bool pllSelected() const { return !m_tousb_pll_RadioButton || m_tousb_pll_RadioButton->isChecked(); }
-    /// Solves for USB if the PLL is free to serve it; in all cases recalculates and repaints.
-    void serveUsb();
+    /// Solves for USB once it is switched on or has a new source.
+    void serveNewDemand();
 
-    QLabel* m_usbdiv_Label = nullptr;
-    CustomComboBox1* m_usbdiv_ComboBox = nullptr;
     CustomComboBox1* m_tousbswitch_ComboBox = nullptr;
     QLabel* m_usbclock_Label = nullptr;
     QLabel* m_hicktousb_Label = nullptr;

@@ -1,4 +1,4 @@
-#include "styles.h"
+#include "pages/blocks/styles.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "inputlimits.h"
+#include "pages/description/inputlimits.h"
 
 #include <QRegExpValidator>
 #include <QWidget>

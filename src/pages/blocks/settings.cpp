@@ -1,4 +1,4 @@
-#include "settings.h"
+#include "pages/blocks/settings.h"
 
 #include <QRadioButton>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modelfield.h"
+#include "pages/description/modelfield.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ClockTreePage.h"
+#include "pages/ClockTreePage.h"
 
 /// Whether the series has a page.
 bool hasSeriesPage(ZN64MCUSERIALS series);

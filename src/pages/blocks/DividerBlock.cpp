@@ -1,0 +1,78 @@
+#include "pages/blocks/DividerBlock.h"
+
+#include <algorithm>
+
+DividerBlock::DividerBlock(ClockTree& tree, const Divider& divider, std::function<bool()> inUse)
+    : ClockBlock(tree), m_divider(divider), m_inUse(std::move(inUse))
+{
+    addControls(divider.routine, [this] { New_divider(); });
+}
+
+void DividerBlock::New_divider()
+{
+    const QString stem = QLatin1String(m_divider.control);
+    m_Label = label(stem + QLatin1String("_Label"));
+    labelIfPlaced(stem + QLatin1String("Max_Label"));
+    std::vector<double> items = m_divider.divisors;
+    items.resize(items.size() - static_cast<std::size_t>(m_divider.withoutItem));
+    m_ComboBox =
+        combo(stem + QLatin1String("_ComboBox"), divisorItems(items, QLatin1String(m_divider.itemPrefix)));
+    addSetting(m_divider.setting, setting());
+}
+
+Setting DividerBlock::setting()
+{
+    std::vector<double> accepted = m_divider.divisors;
+    for (double unread : m_divider.unread)
+        accepted.erase(std::remove(accepted.begin(), accepted.end(), unread), accepted.end());
+    const auto shower = [this](double divisor) { show(divisor); };
+    const Acceptance accept = settings::oneOf(std::move(accepted), m_divider.fallback);
+    return m_divider.decimal ? settings::decimal(model(), m_divider.field, shower, accept)
+                             : settings::whole(model(), m_divider.field, shower, accept);
+}
+
+void DividerBlock::ControlsConnectSlots()
+{
+    connect(m_ComboBox, SIGNAL(currentIndexChanged(int)), this, SLOT(ComboBox_currentIndexChanged(int)));
+}
+
+void DividerBlock::UI_Display()
+{
+    if (!m_inUse)
+        return;
+    const bool on = m_inUse();
+    m_Label->setEnabled(on);
+    m_ComboBox->setEnabledStatus(on);
+}
+
+void DividerBlock::UpdateResultControls()
+{
+    if (m_divider.follows == DividerFollows::Results)
+        show(m_divider.field.get(model()));
+}
+
+void DividerBlock::Update_Flexible_Controls()
+{
+    if (m_divider.follows == DividerFollows::PllSearch)
+        show(m_divider.field.get(model()));
+}
+
+void DividerBlock::ComboBox_currentIndexChanged(int index)
+{
+    if (m_divider.effect == DividerEffect::HextThenPll && !tree().readHextForPll())
+        return;
+    m_divider.field.set(model(), valueAt(m_divider.divisors, index));
+    switch (m_divider.effect) {
+    case DividerEffect::ShowRtc:
+        return tree().UpdateRTCParam();
+    case DividerEffect::KeepSclk:
+        if (tree().readHextForPll())
+            tree().keepTypedSysclk();
+        return;
+    case DividerEffect::ServeUsb:
+        return tree().serveUsb();
+    case DividerEffect::HextThenPll:
+    case DividerEffect::Recalculate:
+        return tree().UpdateCalculateResult();
+    }
+}

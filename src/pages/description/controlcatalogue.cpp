@@ -1,0 +1,249 @@
+#include "pages/description/controlcatalogue.h"
+
+#include <QHash>
+
+namespace {
+
+constexpr int bold = 75;
+constexpr int halfBold = 70;
+
+constexpr ControlEntry label(const char* name, const char* text, int pointSize = 10, int weight = 0)
+{
+    return {name, ControlType::Label, text, 0, 0, pointSize, weight};
+}
+
+constexpr ControlEntry edit(const char* name, const char* text = "")
+{
+    return {name, ControlType::Edit, text};
+}
+
+constexpr ControlEntry combo(const char* name, int width, int z = 0)
+{
+    return {name, ControlType::Combo, "", width, z};
+}
+
+constexpr ControlEntry radio(const char* name)
+{
+    return {name, ControlType::Radio};
+}
+
+constexpr ControlEntry output(const char* name, const char* text = "")
+{
+    return {name, ControlType::Output, text, 0, 0, 9};
+}
+
+constexpr ControlEntry list(const char* name)
+{
+    return {name, ControlType::List};
+}
+
+// clang-format off
+const ControlEntry entries[] = {
+    // The oscillators and the RTC
+    label("m_lick_Label", "lick(kHz)"),
+    edit("m_lick_lineEdit", "40"),
+    output("m_towdt_lineEdit", "to wdt(kHz)"),
+    combo("m_tortc_ComboBox", 80),
+    output("m_tortc_lineEdit"),
+    label("m_tortc_Label", "to rtc(kHz)", 9),
+    label("m_lext_Label1", "lext(kHz)"),
+    edit("m_lext_lineEdit", "32.768"),
+    label("m_lextbypass_Label", "bypass"),
+    combo("m_lextbypass_ComboBox", 80),
+    label("m_lext_In", "IN", 8),
+    label("m_lext_Out", "OUT", 8),
+    label("m_rtcsel_Label", "rtcsel"),
+    radio("m_rtcsel_lick_RadioButton"),
+    radio("m_rtcsel_lext_RadioButton"),
+    radio("m_rtcsel_hext_RadioButton"),
+    label("m_rtcdiv_Label", "ertcdiv"),
+    combo("m_rtcdiv_ComboBox", 60, 1),
+    label("m_hext_Label1", "hext(4-25MHz)"),
+    edit("m_hext_lineEdit", "8"),
+    edit("m_hext_LineEdit", "8"),
+    label("m_hextbypass_Label", "bypass"),
+    combo("m_hextbypass_ComboBox", 80),
+    label("m_hext_In", "IN", 8),
+    label("m_hext_Out", "OUT", 8),
+    label("m_hick_Label", "hick(MHz)"),
+    edit("m_hick_lineEdit", "48"),
+
+    // The PLL
+    label("m_hextdiv_Label", "hextdiv"),
+    combo("m_hextdiv_ComboBox", 50),
+    label("m_hickdiv_Label", "hickdiv"),
+    combo("m_hickdiv_ComboBox", 50),
+    label("m_pllhextdiv_Label", "pllhextdiv"),
+    radio("m_pllhext_nodiv_RadioButton"),
+    radio("m_pllhext_div_RadioButton"),
+    label("m_pllrc_Label", "pllrcs"),
+    radio("m_pllrcs_hext_RadioButton"),
+    radio("m_pllrcs_hick_RadioButton"),
+    label("m_pllmode_Label", "pll_mode"),
+    combo("m_pllmode_ComboBox", 65, 1),
+    label("m_pllmult_Label", "pll_mult"),
+    combo("m_pllmult_ComboBox", 60),
+    label("m_pllms_Label1", "pll_ms"),
+    edit("m_pllms_lineEdit", "1"),
+    label("m_pllms_Label2", "(1-15)"),
+    label("m_pllns_Label1", "pll_ns"),
+    edit("m_pllns_lineEdit", "1"),
+    label("m_pllns_Label2", "(31-500)"),
+    label("m_pllfr_Label", "pll_fr"),
+    combo("m_pllfr_ComboBox", 60),
+    label("m_pllfp_Label", "pll_fp"),
+    combo("m_pllfp_ComboBox", 60),
+    label("m_pllfu_Label", "pll_fu"),
+    combo("m_pllfu_ComboBox", 60),
+    label("m_pllCFG_Label", "CRM_PLLCFG : ", 10, bold),
+    edit("m_pllCFG_Value_lineEdit", "0x08000000"),
+    label("m_pllclk_Label", "", 9, bold),
+
+    // The system clock
+    label("m_sclkselect_Label", "sclk select"),
+    radio("m_sclkselect_hext_RadioButton"),
+    radio("m_sclkselect_pll_RadioButton"),
+    radio("m_sclkselect_hick_RadioButton"),
+    label("m_hicktosclk_Label", "hick to sclk"),
+    radio("m_hicktosclk_div6_RadioButton"),
+    radio("m_hicktosclk_RadioButton"),
+    label("m_sclk_Label", "sclk(MHz)", 9),
+    edit("m_sclk_lineEdit"),
+    label("m_sclkRange_Label", "(4 - %1)", 9, halfBold),
+    label("m_sclkWarning1_QLabel", "Useage limited:", 10, bold),
+    label("m_sclkWarning2_QLabel", "Temperature range - 40~85 degree. "),
+    label("m_sclkWarning3_QLabel", "VDD must over 3.0V. "),
+
+    // The buses
+    label("m_ahbdiv_Label", "ahbdiv"),
+    combo("m_ahbdiv_ComboBox", 60, 1),
+    label("m_apb1div_Label", "apb1div", 9),
+    combo("m_apb1div_ComboBox", 55, 2),
+    label("m_apb1divMax_Label", ""),
+    label("m_apb2div_Label", "apb2div", 9),
+    combo("m_apb2div_ComboBox", 55, 1),
+    label("m_apb2divMax_Label", ""),
+    label("m_apb3div_Label", "apb3div", 9),
+    combo("m_apb3div_ComboBox", 55, 1),
+    label("m_apb3divMax_Label", "90MHz max"),
+    edit("m_tosystick_div"),
+    edit("m_toapb1tmr_mul"),
+    edit("m_toapb2tmr_mul"),
+    edit("m_toapb1tmr_div"),
+    edit("m_toapb2tmr_div"),
+
+    // USB and the ADC
+    label("m_usbdiv_Label", "usbdiv"),
+    combo("m_usbdiv_ComboBox", 60),
+    label("m_tousb_Label", "to usb"),
+    combo("m_tousbswitch_ComboBox", 70),
+    label("m_usbclock_Label", "", 9, halfBold),
+    label("m_hicktousb_Label", "hick to usb"),
+    radio("m_tousb_pll_RadioButton"),
+    radio("m_tousb_hick_RadioButton"),
+    label("m_toadcdiv_Label", "adcdiv", 9),
+    combo("m_toadcdiv_ComboBox", 50, 3),
+    combo("m_toadcswitch_ComboBox", 68, 2),
+    label("m_toadc_Label", "adc (MHz)", 9),
+
+    // The clock outputs, but for the rows of their sources
+    label("m_clockoutpin_Label", "select pin"),
+    combo("m_clockoutpin_ComboBox", 70, 1),
+    label("m_clockoutdiv_Label", "clockoutdiv"),
+    combo("m_clockoutdiv_ComboBox", 70),
+    label("m_clockoutdiv1_Label", "clockoutdiv1"),
+    combo("m_clockoutdiv1_ComboBox", 70),
+    label("m_clockoutdiv2_Label", "clockoutdiv2"),
+    combo("m_clockoutdiv2_ComboBox", 70),
+    label("m_clockout_Value_QLabel", "", 9, halfBold),
+    label("m_clockout_QLabel", "clkout"),
+    label("m_clockout1pin_Label", "select pin"),
+    combo("m_clockout1pin_ComboBox", 80),
+    label("m_clockout1div1_Label", "clockout1div1"),
+    combo("m_clockout1div1_ComboBox", 80),
+    label("m_clockout1div2_Label", "clockout1div2"),
+    combo("m_clockout1div2_ComboBox", 80),
+    label("m_clockout1_Value_QLabel", "", 10, halfBold),
+    label("m_clockout1_QLabel", "clkout1"),
+    label("m_clockout2pin_Label", "select pin"),
+    combo("m_clockout2pin_ComboBox", 80, 1),
+    label("m_clockout2div1_Label", "clockout2div1"),
+    combo("m_clockout2div1_ComboBox", 80),
+    label("m_clockout2div2_Label", "clockout2div2"),
+    combo("m_clockout2div2_ComboBox", 80),
+    label("m_clockout2_Value_QLabel", "", 10, halfBold),
+    label("m_clockout2_QLabel", "clkout2"),
+
+    // The output column. Two of the lists have lost the last letter of their name.
+    output("m_toi2s_lineEdit", "i2s (MHz)"),
+    output("m_tosystick_lineEdit", "systick(MHz)"),
+    output("m_tosido_lineEdit", "sdio (MHz)"),
+    output("m_todma_lineEdit", "dma (MHz)"),
+    output("m_toxmc_lineEdit", "xmc (MHz)"),
+    output("m_togpio_lineEdit", "gpio (MHz)"),
+    output("m_todvp_lineEdit", "dvp (MHz)"),
+    output("m_toqspi_lineEdit", "qspi (MHz)"),
+    output("m_toaes_lineEdit", "aes (MHz)"),
+    output("m_totrng_lineEdit", "trng (MHz)"),
+    output("m_toemac_lineEdit", "emac (MHz)"),
+    output("m_toadc_lineEdit", "adc (MHz)"),
+    output("m_toapb1peripheral_lineEdit", "apb1 peripheral (MHz)"),
+    output("m_toapb1tmr_lineEdit", "apb1 tmr (MHz)"),
+    output("m_toapb2peripheral_lineEdit", "apb2 peripheral (MHz)"),
+    output("m_toapb2tmr_lineEdit", "apb2 tmr (MHz)"),
+    output("m_toapb3peripheral_lineEdit", "apb3 peripheral (MHz)"),
+    list("m_toapb1periphera_list_group"),
+    list("m_toapb1tmr_list_group"),
+    list("m_toapb2periphera_list_group"),
+    list("m_toapb2tmr_list_group"),
+};
+
+const OutputEntry outputs[] = {
+    {"m_toi2s_lineEdit",            ClockSource::Sclk},
+    {"m_tosystick_lineEdit",        ClockSource::Ahb, 8.0},
+    {"m_tosido_lineEdit",           ClockSource::Ahb},
+    {"m_todma_lineEdit",            ClockSource::Ahb},
+    {"m_toxmc_lineEdit",            ClockSource::Ahb},
+    {"m_togpio_lineEdit",           ClockSource::Ahb},
+    {"m_todvp_lineEdit",            ClockSource::Ahb},
+    {"m_toqspi_lineEdit",           ClockSource::Ahb},
+    {"m_toaes_lineEdit",            ClockSource::Ahb},
+    {"m_totrng_lineEdit",           ClockSource::Ahb},
+    {"m_toemac_lineEdit",           ClockSource::Ahb},
+    {"m_toadc_lineEdit",            ClockSource::Ahb},
+    {"m_toapb1peripheral_lineEdit", ClockSource::Apb1},
+    {"m_toapb1tmr_lineEdit",        ClockSource::Apb1Timer},
+    {"m_toapb2peripheral_lineEdit", ClockSource::Apb2},
+    {"m_toapb2tmr_lineEdit",        ClockSource::Apb2Timer},
+    {"m_toapb3peripheral_lineEdit", ClockSource::Apb3},
+};
+// clang-format on
+
+template <class Entry, std::size_t Count>
+QHash<QString, const Entry*> byName(const Entry (&table)[Count])
+{
+    QHash<QString, const Entry*> found;
+    for (const Entry& entry : table) {
+        if (found.contains(QLatin1String(entry.name)))
+            qFatal("the catalogue names %s twice", entry.name);
+        found.insert(QLatin1String(entry.name), &entry);
+    }
+    return found;
+}
+
+} // namespace
+
+const ControlEntry* controlcatalogue::find(const QString& name)
+{
+    static const QHash<QString, const ControlEntry*> all = byName(entries);
+    return all.value(name, nullptr);
+}
+
+const OutputEntry& controlcatalogue::output(const QString& name)
+{
+    static const QHash<QString, const OutputEntry*> all = byName(outputs);
+    const OutputEntry* entry = all.value(name, nullptr);
+    if (!entry)
+        qFatal("%s is no output", qPrintable(name));
+    return *entry;
+}

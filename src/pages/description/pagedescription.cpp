@@ -1,0 +1,76 @@
+#include "pages/description/pagedescription.h"
+
+namespace {
+
+// From an output edit to the list of its peripherals.
+constexpr int listRight = 85;
+
+void addOutputs(PageDescription& page)
+{
+    for (const OutputRow& row : page.outputs.rows) {
+        const QByteArray edit = outputEdit(row).toLatin1();
+        page.places = page.places + Places{
+                                        {edit.constData(), page.outputs.x + row.right, row.y}
+        };
+    }
+    for (const ListNames& names : listNames())
+        page.places =
+            page.places + Places{
+                              {names.group, page.outputs.x + listRight, (page.lists.*names.list).y}
+        };
+}
+
+void addRow(Places& places, const ClockOutput& output, const ClockOutputRow& row)
+{
+    const QString stem = QStringLiteral("m_%1_%2").arg(QLatin1String(output.stem), QLatin1String(row.name));
+    const ClockOutputColumn& column = output.column;
+    const int labelY = row.y + column.labelsDown;
+    places.add(stem + QLatin1String("_RadioButton"), {ControlType::Radio, column.radioX, row.y, QString()});
+    places.add(stem + QLatin1String("_QLabel1"),
+               {ControlType::Label, column.nameX, labelY, QString::fromLatin1(row.text)});
+    if (row.source != ClockSource::None)
+        places.add(stem + QLatin1String("_QLabel"),
+                   {ControlType::Label, column.valueX + row.valueRight, labelY, QString()});
+}
+
+} // namespace
+
+const std::vector<ListNames>& listNames()
+{
+    // Two of the groups have lost the last letter of their name.
+    static const std::vector<ListNames> names = {
+        {"m_toapb1peripheral_List_Button", "m_toapb1periphera_list_group", "m_toapb1peripheral_lineEdit",
+         &PeripheralLists::apb1      },
+        {"m_toapb1tmr_List_Button",        "m_toapb1tmr_list_group",       "m_toapb1tmr_lineEdit",
+         &PeripheralLists::apb1Timers},
+        {"m_toapb2peripheral_List_Button", "m_toapb2periphera_list_group", "m_toapb2peripheral_lineEdit",
+         &PeripheralLists::apb2      },
+        {"m_toapb2tmr_List_Button",        "m_toapb2tmr_list_group",       "m_toapb2tmr_lineEdit",
+         &PeripheralLists::apb2Timers},
+    };
+    return names;
+}
+
+std::vector<StartValue> PageDescription::startValues() const
+{
+    std::vector<StartValue> values;
+    for (const QString& each : QString::fromLatin1(start).split(QLatin1Char(' '))) {
+        const int equals = each.indexOf(QLatin1Char('='));
+        values.push_back({each.left(equals), each.mid(equals + 1).toDouble()});
+    }
+    return values;
+}
+
+QString outputEdit(const OutputRow& row)
+{
+    return QStringLiteral("m_%1_lineEdit").arg(QLatin1String(row.name));
+}
+
+PageDescription complete(PageDescription page)
+{
+    addOutputs(page);
+    for (const ClockOutput& output : page.clockOutputs)
+        for (const ClockOutputRow& row : output.rows)
+            addRow(page.places, output, row);
+    return page;
+}

@@ -1,0 +1,110 @@
+#include "pages/ClockTreePage.h"
+
+#include "pages/blocks/AdcBlock.h"
+#include "pages/blocks/BusesBlock.h"
+#include "pages/blocks/ClockOutputBlock.h"
+#include "pages/blocks/DividerBlock.h"
+#include "pages/blocks/FlexiblePllBlock.h"
+#include "pages/blocks/HickRouteBlock.h"
+#include "pages/blocks/HighSpeedBlock.h"
+#include "pages/blocks/LowSpeedBlock.h"
+#include "pages/blocks/OutputsBlock.h"
+#include "pages/blocks/PllMultiplierBlock.h"
+#include "pages/blocks/PllOutputBlock.h"
+#include "pages/blocks/PllSourceBlock.h"
+#include "pages/blocks/SystemClockBlock.h"
+#include "pages/blocks/UsbBlock.h"
+
+// Which blocks a description asks for, and the order in which their controls are made.
+
+namespace {
+
+/// Every routine that makes controls. Controls of one stacking level lie in this order, the last on top.
+const char routinesInOrder[] =
+    "New_lick New_towdt New_tortc New_lext New_lextbypass New_rtcsel New_rtcdiv New_hext New_hextbypass "
+    "New_hextdiv New_hickdiv New_pllhextdiv New_pllrcs New_pll_mult New_pll_ms New_pll_ns New_pll_fr "
+    "New_pll_fp New_pllclk New_pll_CFG New_sclkselect New_ahbdiv New_apb1div New_apb2div New_apb3div "
+    "New_pll_fu New_usbdiv New_tousb New_hicktousb New_hicktosclk New_hick New_clockoutdiv New_clockoutdiv1 "
+    "New_clockoutdiv2 New_clockoutpinselect New_clockout New_clockout1div1 New_clockout1div2 "
+    "New_clockout1pinselect New_clockout1 New_clockout2div1 New_clockout2div2 New_clockout2pinselect "
+    "New_clockout2 New_Result New_toperipheral New_totmrmultiply New_totadc New_toadcdiv";
+
+} // namespace
+
+template <class Block, class... Arguments>
+Block* ClockTreePage::addBlock(const Arguments&... arguments)
+{
+    auto block = std::make_unique<Block>(*this, arguments...);
+    Block* added = block.get();
+    m_blocks.push_back(std::move(block));
+    return added;
+}
+
+std::function<bool()> ClockTreePage::useOf(const Divider& divider) const
+{
+    switch (divider.use) {
+    case DividerUse::Always:
+    case DividerUse::ClockOutputOn: // told by its output
+        return {};
+    case DividerUse::RtcFromHext:
+        return [this] { return rtcOn() && rtcFromHext(); };
+    case DividerUse::PllInUse:
+        return [this] { return pllInUse(); };
+    case DividerUse::PllFromDividedHext:
+        return [this] { return pllInUse() && hextFeedsPll() && m_pllSource->hextDivided(); };
+    case DividerUse::SclkFromHext:
+        return [this] { return sclkFromHext(); };
+    case DividerUse::SclkFromHick:
+        return [this] { return sclkFromHick(); };
+    case DividerUse::UsbFromPll:
+    case DividerUse::UsbOrCanFromPll:
+        return [this] { return usbFromPll(); };
+    case DividerUse::AdcOn:
+        return [this] { return adcOn(); };
+    }
+    return {};
+}
+
+void ClockTreePage::createBlocks()
+{
+    m_lowSpeed = addBlock<LowSpeedBlock>();
+    m_highSpeed = addBlock<HighSpeedBlock>();
+    m_pllSource = addBlock<PllSourceBlock>();
+    if (m_description.pllMultiplier)
+        addBlock<PllMultiplierBlock>();
+    m_pllOutput = addBlock<PllOutputBlock>();
+    if (m_description.pllParameters)
+        m_flexiblePll = addBlock<FlexiblePllBlock>();
+    m_systemClock = addBlock<SystemClockBlock>();
+    if (m_description.hickToSclk)
+        m_hickRoute = addBlock<HickRouteBlock>();
+    m_outputs = addBlock<OutputsBlock>();
+    if (m_description.adcDivider)
+        m_adc = addBlock<AdcBlock>();
+    addBlock<BusesBlock>();
+    for (const Divider& divider : m_description.dividers)
+        addBlock<DividerBlock>(divider, useOf(divider));
+    if (m_description.usb) {
+        m_usb = addBlock<UsbBlock>();
+        addBlock<DividerBlock>(m_description.usb->divider, useOf(m_description.usb->divider));
+    }
+    for (const ClockOutput& output : m_description.clockOutputs) {
+        const auto* block = addBlock<ClockOutputBlock>(output);
+        for (const Divider& divider : output.dividers)
+            addBlock<DividerBlock>(divider, std::function<bool()>([block] { return block->pinSet(); }));
+    }
+}
+
+void ClockTreePage::addControls(const char* routine, std::function<void()> make)
+{
+    m_routines.insert(QLatin1String(routine), std::move(make));
+}
+
+void ClockTreePage::NewAllControl()
+{
+    for (const QString& routine : QString::fromLatin1(routinesInOrder).split(QLatin1Char(' ')))
+        if (const std::function<void()> make = m_routines.take(routine))
+            make();
+    if (!m_routines.isEmpty())
+        qFatal("%s has no place in the order of the controls", qPrintable(m_routines.cbegin().key()));
+}

@@ -1,0 +1,36 @@
+#include "pages/ClockTreePage.h"
+
+#include "pages/blocks/PllOutputBlock.h"
+
+#include <algorithm>
+
+// The limits that saving and generating insist on, or ask about.
+
+bool ClockTreePage::isOn(ClockSource clock) const
+{
+    switch (clock) {
+    case ClockSource::Pll:
+        return m_pllOutput->shown();
+    case ClockSource::Usb:
+        return model().Get_TO_USB_Switch() == TO_USB_SWITCH_ENABLE;
+    case ClockSource::Adc:
+        return model().Get_ToADC_Switch();
+    default:
+        return true;
+    }
+}
+
+bool ClockTreePage::passes(const Limit& limit) const
+{
+    if (!isOn(limit.clock) || !limits::breaks(limit, clockValue(limit.clock, model()), normalMode()))
+        return true;
+    if (limit.question)
+        return askToContinue(QMessageBox::Warning, limit.question);
+    showErrorBox(translated(limits::refusal(limit)) + QStringLiteral(" %1MHz").arg(limit.shown));
+    return false;
+}
+
+bool ClockTreePage::passesAll(const Limits& limits) const
+{
+    return std::all_of(limits.begin(), limits.end(), [this](const Limit& limit) { return passes(limit); });
+}
