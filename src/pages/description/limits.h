@@ -37,11 +37,16 @@ struct Limit
 };
 using Limits = std::vector<Limit>;
 
+/// Both lists, one behind the other.
+Limits operator+(Limits some, const Limits& others);
+
 namespace limits {
 
 /// Red above: the system clock, AHB and both timers' clocks at sclk, the APB buses at theirs, MHz.
 Limits painted(double sclk, double apb1, double apb2);
 
+/// Refuses above these numbers, MHz, and shows them: the system clock, then APB1 and APB2.
+Limits refused(double sclk, double apb1, double apb2);
 /// Refuses above the number, and shows it.
 Limit above(ClockSource clock, double compared);
 /// Refuses above one number and shows another.

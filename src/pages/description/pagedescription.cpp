@@ -1,5 +1,7 @@
 #include "pages/description/pagedescription.h"
 
+#include <algorithm>
+
 namespace {
 
 // From an output edit to the list of its peripherals.
@@ -33,6 +35,16 @@ void addRow(Places& places, const ClockOutput& output, const ClockOutputRow& row
                    {ControlType::Label, column.valueX + row.valueRight, labelY, QString()});
 }
 
+std::vector<StartValue> parseStart(const char* text)
+{
+    std::vector<StartValue> values;
+    for (const QString& each : QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const int equals = each.indexOf(QLatin1Char('='));
+        values.push_back({each.left(equals), each.mid(equals + 1).toDouble()});
+    }
+    return values;
+}
+
 } // namespace
 
 const std::vector<ListNames>& listNames()
@@ -53,12 +65,21 @@ const std::vector<ListNames>& listNames()
 
 std::vector<StartValue> PageDescription::startValues() const
 {
-    std::vector<StartValue> values;
-    for (const QString& each : QString::fromLatin1(start).split(QLatin1Char(' '))) {
-        const int equals = each.indexOf(QLatin1Char('='));
-        values.push_back({each.left(equals), each.mid(equals + 1).toDouble()});
+    std::vector<StartValue> values = parseStart(start);
+    for (const StartValue& own : parseStart(ownStart)) {
+        const auto value = std::find_if(values.begin(), values.end(), [&own](const StartValue& each) {
+            return each.setting == own.setting;
+        });
+        if (value == values.end())
+            qFatal("the family starts without %s", qPrintable(own.setting));
+        value->value = own.value;
     }
     return values;
+}
+
+ClockOutput singleClockOutput()
+{
+    return {"clockout", "clkout", "clkoutpinselect", MODEL_FIELD(CLKOUT), MODEL_FIELD(CLKOUT_PinSelect)};
 }
 
 QString outputEdit(const OutputRow& row)

@@ -123,6 +123,9 @@ struct ClockOutput
     bool lextNeedsRtc = false;
 };
 
+/// The one clock output of a series that has no second one, still without pins, column and rows.
+ClockOutput singleClockOutput();
+
 /// The USB clock.
 struct UsbPart
 {
@@ -156,6 +159,8 @@ struct PageDescription
 
     /// "rtcsel=0 rtcswitch=0 ...", in the order of the reset.
     const char* start = "";
+    /// Of a sibling: what it starts with instead, in the place that the family gives it.
+    const char* ownStart = "";
     /// Writes the fields for which the series has no control.
     void (*fixedFields)(ZN64ConfigCLK&) = nullptr;
     /// The settings of a design file, with blanks between.

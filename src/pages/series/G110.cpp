@@ -74,7 +74,7 @@ PeripheralLists lists()
 
 ClockOutput clockOutput()
 {
-    ClockOutput output{"clockout", "clkout", "clkoutpinselect", MODEL_FIELD(CLKOUT), MODEL_FIELD(CLKOUT_PinSelect)};
+    ClockOutput output = singleClockOutput();
     output.pins = {{"PA8", CLKOUTPIN_PA8}};
     output.column = {339, 400, 440, -5};
     output.rows = {
@@ -118,17 +118,11 @@ PageDescription families::g110()
     page.readingOrder = "lextbypass rtcsel rtcswitch hext hextbypass pllhextdiv pllrcs pllmult sclkselect "
                         "ahbdiv apb1div apb2div usbdiv tousbswitch adcswitch adcdiv clkoutpinselect clkout";
     page.typedSclk = {4.0, 200.0};
-    page.painted = limits::painted(200.0, 100.0, 100.0);
-    page.painted.push_back(limits::above(ClockSource::Pll, 200.0));
-    page.painted.push_back(limits::above(ClockSource::Adc, adcLimitMHz));
-    page.onSaving = {
-        limits::above(ClockSource::Sclk, 200.0),
-        limits::above(ClockSource::Apb1, 100.0),
-        limits::above(ClockSource::Apb2, 100.0),
-        limits::above(ClockSource::Pll, 200.0),
-        limits::usbClock(),
-        limits::adcClock(adcLimitMHz, limits::adc28),
-    };
+    const Limit pll = limits::above(ClockSource::Pll, 200.0);
+    page.painted =
+        limits::painted(200.0, 100.0, 100.0) + Limits{pll, limits::above(ClockSource::Adc, adcLimitMHz)};
+    page.onSaving = limits::refused(200.0, 100.0, 100.0) +
+                    Limits{pll, limits::usbClock(), limits::adcClock(adcLimitMHz, limits::adc28)};
     page.onGenerating = page.onSaving;
     page.pllHextDivider = true;
     page.checksPllInput = true;

@@ -158,15 +158,9 @@ PageDescription families::g150()
                         "clkout1pinselect clkout1 clkout1div1 clkout1div2 clkout2pinselect clkout2 "
                         "clkout2div1 clkout2div2";
     page.typedSclk = {4.0, 288.0};
-    page.painted = limits::painted(288.0, 144.0, 144.0);
-    page.painted.push_back(limits::above(ClockSource::Pll, 288.0));
-    page.onSaving = {
-        limits::above(ClockSource::Sclk, 288.0),
-        limits::above(ClockSource::Apb1, 144.0),
-        limits::above(ClockSource::Apb2, 144.0),
-        limits::above(ClockSource::Pll, 288.0),
-        limits::usbClock(),
-    };
+    const Limit pll = limits::above(ClockSource::Pll, 288.0);
+    page.painted = limits::painted(288.0, 144.0, 144.0) + Limits{pll};
+    page.onSaving = limits::refused(288.0, 144.0, 144.0) + Limits{pll, limits::usbClock()};
     page.onGenerating = page.onSaving;
     page.rtcHextDivisor.reset();
     page.pllParameters = true;

@@ -7,6 +7,10 @@
 namespace families {
 
 PageDescription g110();
+PageDescription g110r();
+PageDescription g114();
+PageDescription h110r();
+PageDescription g120();
 PageDescription g150();
 PageDescription g152();
 

@@ -38,15 +38,23 @@ ClockTreePage* make(QWidget* parent)
     }
 
 CONSTRUCT(G110, g110)
+CONSTRUCT(G110R, g110r)
+CONSTRUCT(G114, g114)
+CONSTRUCT(H110R, h110r)
+CONSTRUCT(G120, g120)
 CONSTRUCT(G150, g150)
 CONSTRUCT(G152, g152)
 
 namespace {
 
 const SeriesPage pages[] = {
-    {ZN64G110, make<ZN64G110PLL>},
-    {ZN64G150, make<ZN64G150PLL>},
-    {ZN64G152, make<ZN64G152PLL>},
+    {ZN64G110,  make<ZN64G110PLL> },
+    {ZN64G110R, make<ZN64G110RPLL>},
+    {ZN64G114,  make<ZN64G114PLL> },
+    {ZN64H110R, make<ZN64H110RPLL>},
+    {ZN64G120,  make<ZN64G120PLL> },
+    {ZN64G150,  make<ZN64G150PLL> },
+    {ZN64G152,  make<ZN64G152PLL> },
 };
 
 const SeriesPage* find(ZN64MCUSERIALS series)
