@@ -1,4 +1,5 @@
 #include "setups.h"
+#include "testdata.h"
 
 #include "codegen/hertz.h"
 
@@ -11,20 +12,6 @@ using MacroOf = std::function<QString(Clock&, double)>;
 using Expected = std::function<QString(int)>;
 Q_DECLARE_METATYPE(MacroOf)
 Q_DECLARE_METATYPE(Expected)
-
-/// The values that fragments put into the text: macros, frequencies, and the result comment.
-class ValuesTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void macros_data();
-    void macros();
-    void thresholds_data();
-    void thresholds();
-    void hertz();
-    void commentsTheResult();
-};
 
 namespace {
 QStringList wordsOf(const char* text)
@@ -193,222 +180,226 @@ void peripheralRows()
     row(NUMBER(CANClockSource_Define_String), counted("CRM_CAN_CLOCK_SOURCE_%1", "HEXT PLL PCLK"),
         "G142 G146 P212 P216");
 }
-} // namespace
-
-void ValuesTest::macros_data()
-{
-    QTest::addColumn<QString>("series");
-    QTest::addColumn<MacroOf>("macro");
-    QTest::addColumn<Expected>("expected");
-    pllRows();
-    busRows();
-    outputRows();
-    peripheralRows();
-}
-
-void ValuesTest::macros()
-{
-    QFETCH(QString, series);
-    QFETCH(MacroOf, macro);
-    QFETCH(Expected, expected);
-    Clock clock = clockOf(series);
-    clock.Set_SYSCLKSelect(SYSCLK_PLL);
-    clock.Set_PLLHEXTDIV(PLLHEXT_DIV);
-    clock.Set_TO_USB_Switch(TO_USB_SWITCH_ENABLE);
-    clock.Set_HICK_TO_USB(HICK_TO_USB_DISABLE);
-    clock.Set_USBDIV(3.0);
-    // Beyond the ends of every field.
-    for (int value = -3; value <= 600; ++value)
-        QCOMPARE(QPair(value, macro(clock, value)), QPair(value, expected(value)));
-}
-
-namespace {
 /// The words of a PLL range or of flash cycles in the result comment.
 QString commented(const Clock& clock, const char* item)
 {
-    QString text = QStringLiteral("* @brief  system clock config program\n  * @retval none");
+    QString text = "* @brief  system clock config program\n  * @retval none"_s;
     clock.GenerateCode_result(text);
-    return text.section(QLatin1String(item), 1)
-        .section(QStringLiteral("= "), 1)
-        .section(QLatin1Char(' '), 0, 0);
+    return text.section(QLatin1String(item), 1).section("= "_s, 1).section(QLatin1Char(' '), 0, 0);
 }
 
 QString flashDivider(Clock& clock, double sysclk)
 {
     clock.Set_SYSCLKValue(sysclk);
-    QString text = QStringLiteral("flash_clock_divider_set(none);");
+    QString text = "flash_clock_divider_set(none);"_s;
     return clock.GenerateCode_flashclkdiv(text) ? text.mid(24).chopped(2) : QString();
 }
 
 QString autoStep(Clock& clock, double sysclk)
 {
     clock.Set_SYSCLKValue(sysclk);
-    QString text = QStringLiteral("[#enable auto step mode]\non\n[/#enable auto step mode]\n"
-                                  "[#disable auto step mode]\noff\n[/#disable auto step mode]\n");
+    QString text = "[#enable auto step mode]\non\n[/#enable auto step mode]\n"
+                   "[#disable auto step mode]\noff\n[/#disable auto step mode]\n"_s;
     return clock.GenerateCode_autostepmode(text) ? text.simplified().remove(QLatin1Char(' ')) : QString();
 }
 
 QString sysclkSwitch(Clock& clock, double sysclk)
 {
     clock.Set_SYSCLKValue(sysclk);
-    QString text = QStringLiteral("[#pll sysclock]\n[#sysclock < 168]\nplain;\n[/#sysclock < 168]\n"
-                                  "[#sysclock >= 168]\nsteps;\n[/#sysclock >= 168]\n[/#pll sysclock]\n");
+    QString text = "[#pll sysclock]\n[#sysclock < 168]\nplain;\n[/#sysclock < 168]\n"
+                   "[#sysclock >= 168]\nsteps;\n[/#sysclock >= 168]\n[/#pll sysclock]\n"_s;
     const bool done = clock.GenerateCode_pllsysclock(text);
     return QLatin1String(done && text.contains(QLatin1String("plain;")) ? "plain" : "") +
            QLatin1String(done && text.contains(QLatin1String("steps;")) ? "steps" : "");
 }
 } // namespace
 
-void ValuesTest::thresholds_data()
+/// The values that fragments put into the text: macros, frequencies, and the result comment.
+class ValuesTest : public QObject
 {
-    QTest::addColumn<QString>("series");
-    QTest::addColumn<MacroOf>("told");
-    QTest::addColumn<QStringList>("steps");
-    using Rows = std::initializer_list<std::pair<const char*, const char*>>;
-    // What is told up to a limit, the limit, what is told above it, and so on. "<" keeps the limit itself
-    // out.
-    const auto kind = [](const char* name, const MacroOf& told, const char* others, const Rows& rows = {}) {
-        for (const SeriesTraits& traits : seriesList()) {
-            const char* steps = others;
-            for (const auto& [series, own] : rows)
-                if (wordsOf(series).contains(QLatin1String(traits.word)))
-                    steps = own;
-            QTest::addRow("%s %s", name, traits.word)
-                << QString::fromLatin1(traits.word) << told << wordsOf(steps);
+    Q_OBJECT
+
+private slots:
+    void macros_data()
+    {
+        QTest::addColumn<QString>("series");
+        QTest::addColumn<MacroOf>("macro");
+        QTest::addColumn<Expected>("expected");
+        pllRows();
+        busRows();
+        outputRows();
+        peripheralRows();
+    }
+
+    void macros()
+    {
+        QFETCH(QString, series);
+        QFETCH(MacroOf, macro);
+        QFETCH(Expected, expected);
+        Clock clock = clockOf(series);
+        clock.Set_SYSCLKSelect(SYSCLK_PLL);
+        clock.Set_PLLHEXTDIV(PLLHEXT_DIV);
+        clock.Set_TO_USB_Switch(TO_USB_SWITCH_ENABLE);
+        clock.Set_HICK_TO_USB(HICK_TO_USB_DISABLE);
+        clock.Set_USBDIV(3.0);
+        // Beyond the ends of every field.
+        for (int value = -3; value <= 600; ++value)
+            QCOMPARE(QPair(value, macro(clock, value)), QPair(value, expected(value)));
+    }
+
+    void thresholds_data()
+    {
+        QTest::addColumn<QString>("series");
+        QTest::addColumn<MacroOf>("told");
+        QTest::addColumn<QStringList>("steps");
+        using Rows = std::initializer_list<std::pair<const char*, const char*>>;
+        // What is told up to a limit, the limit, what is told above it, and so on. "<" keeps the limit itself
+        // out.
+        const auto kind = [](const char* name, const MacroOf& told, const char* others,
+                             const Rows& rows = {}) {
+            for (const SeriesTraits& traits : seriesList()) {
+                const char* steps = others;
+                for (const auto& [series, own] : rows)
+                    if (wordsOf(series).contains(QLatin1String(traits.word)))
+                        steps = own;
+                QTest::addRow("%s %s", name, traits.word)
+                    << QString::fromLatin1(traits.word) << told << wordsOf(steps);
+            }
+        };
+        const char* const range = "LE72MHZ 72 GT72MHZ";
+        const char* const cycles = "0 32 1 64 2 96 3 128 4";
+        kind("flash", of(&Clock::Set_SYSCLKValue, &Clock::GetOutPutString_OscInitType_FlashPsr),
+             "FLASH_WAIT_CYCLE_0 32 FLASH_WAIT_CYCLE_1 64 FLASH_WAIT_CYCLE_2 96 FLASH_WAIT_CYCLE_3 128 "
+             "FLASH_WAIT_CYCLE_4 160 FLASH_WAIT_CYCLE_5 192 FLASH_WAIT_CYCLE_6 216 FLASH_WAIT_CYCLE_7");
+        const auto ldo = [](Clock& clock, double sysclk) {
+            clock.Set_SYSCLKValue(sysclk);
+            return clock.GetOutPutString_PWC_LDO_OUTPUT_Define_String().remove("PWC_LDO_OUTPUT_"_s);
+        };
+        kind("LDO", ldo, "",
+             {
+                 {"D042",           "1V1 32 1V2"         },
+                 {"G133 H133",      "1V1 64 1V2 120 1V3" },
+                 {"G171 G174 G190", "1V1 108 1V2 192 1V3"},
+                 {"G165 G166 G167", "1V1 108 1V2 160 1V3"},
+                 {"G150 G152",      "1V1 144 1V2 240 1V3"},
+                 {"G142 G146",      "1V2 120 1V3"        },
+                 {"P212 P216",      "1V2 150 1V3 180 1V2"}
+        });
+        kind("flash divider", flashDivider, "none",
+             {
+                 {"G150 G152", "FLASH_CLOCK_DIV_2 208 FLASH_CLOCK_DIV_3"}
+        });
+        kind("auto step mode", autoStep, " 108 onoff");
+        kind("switch", sysclkSwitch, "plainsteps",
+             {
+                 {"G110", "plain <168 steps"}
+        });
+        kind("PLL range", of(&Clock::Set_PLLCLKValue, &Clock::GetOutPutString_OscInitType_PLLOutputRange),
+             "CRM_PLL_OUTPUT_RANGE_LE72MHZ 72 CRM_PLL_OUTPUT_RANGE_GT72MHZ");
+        const auto commentedRange = [](Clock& clock, double pll) {
+            clock.Set_PLLCLKValue(pll);
+            return commented(clock, "pll_range");
+        };
+        kind("commented PLL range", commentedRange, range,
+             {
+                 {"G125 TQ125 G130 G135 D042 G142 G146 G133 H133", ""}
+        });
+        const auto commentedCycles = [](Clock& clock, double sysclk) {
+            clock.Set_SYSCLKValue(sysclk);
+            return commented(clock, "flash_wtcyc");
+        };
+        kind("commented flash", commentedCycles, "",
+             {
+                 {"G125 TQ125 G130 G135 D042 G142 G146", cycles}
+        });
+    }
+
+    void thresholds()
+    {
+        QFETCH(QString, series);
+        QFETCH(MacroOf, told);
+        QFETCH(QStringList, steps);
+        Clock clock = clockOf(series);
+        clock.Set_SYSCLKSelect(SYSCLK_PLL);
+        clock.Set_ConfigMode(PLLMODE_NORMAL);
+        QCOMPARE(told(clock, 1.0), steps.first());
+        QCOMPARE(told(clock, 1000.0), steps.last());
+        for (int i = 1; i < steps.size(); i += 2) {
+            const bool below = steps[i].startsWith(QLatin1Char('<'));
+            const double limit = steps[i].mid(below).toDouble();
+            QCOMPARE(told(clock, below ? std::nextafter(limit, 0.0) : limit), steps[i - 1]);
+            QCOMPARE(told(clock, below ? limit : std::nextafter(limit, 1e3)), steps[i + 1]);
         }
-    };
-    const char* const range = "LE72MHZ 72 GT72MHZ";
-    const char* const cycles = "0 32 1 64 2 96 3 128 4";
-    kind("flash", of(&Clock::Set_SYSCLKValue, &Clock::GetOutPutString_OscInitType_FlashPsr),
-         "FLASH_WAIT_CYCLE_0 32 FLASH_WAIT_CYCLE_1 64 FLASH_WAIT_CYCLE_2 96 FLASH_WAIT_CYCLE_3 128 "
-         "FLASH_WAIT_CYCLE_4 160 FLASH_WAIT_CYCLE_5 192 FLASH_WAIT_CYCLE_6 216 FLASH_WAIT_CYCLE_7");
-    const auto ldo = [](Clock& clock, double sysclk) {
-        clock.Set_SYSCLKValue(sysclk);
-        return clock.GetOutPutString_PWC_LDO_OUTPUT_Define_String().remove(QStringLiteral("PWC_LDO_OUTPUT_"));
-    };
-    kind("LDO", ldo, "",
-         {
-             {"D042",           "1V1 32 1V2"         },
-             {"G133 H133",      "1V1 64 1V2 120 1V3" },
-             {"G171 G174 G190", "1V1 108 1V2 192 1V3"},
-             {"G165 G166 G167", "1V1 108 1V2 160 1V3"},
-             {"G150 G152",      "1V1 144 1V2 240 1V3"},
-             {"G142 G146",      "1V2 120 1V3"        },
-             {"P212 P216",      "1V2 150 1V3 180 1V2"}
-    });
-    kind("flash divider", flashDivider, "none",
-         {
-             {"G150 G152", "FLASH_CLOCK_DIV_2 208 FLASH_CLOCK_DIV_3"}
-    });
-    kind("auto step mode", autoStep, " 108 onoff");
-    kind("switch", sysclkSwitch, "plainsteps",
-         {
-             {"G110", "plain <168 steps"}
-    });
-    kind("PLL range", of(&Clock::Set_PLLCLKValue, &Clock::GetOutPutString_OscInitType_PLLOutputRange),
-         "CRM_PLL_OUTPUT_RANGE_LE72MHZ 72 CRM_PLL_OUTPUT_RANGE_GT72MHZ");
-    const auto commentedRange = [](Clock& clock, double pll) {
-        clock.Set_PLLCLKValue(pll);
-        return commented(clock, "pll_range");
-    };
-    kind("commented PLL range", commentedRange, range,
-         {
-             {"G125 TQ125 G130 G135 D042 G142 G146 G133 H133", ""}
-    });
-    const auto commentedCycles = [](Clock& clock, double sysclk) {
-        clock.Set_SYSCLKValue(sysclk);
-        return commented(clock, "flash_wtcyc");
-    };
-    kind("commented flash", commentedCycles, "",
-         {
-             {"G125 TQ125 G130 G135 D042 G142 G146", cycles}
-    });
-}
-
-void ValuesTest::thresholds()
-{
-    QFETCH(QString, series);
-    QFETCH(MacroOf, told);
-    QFETCH(QStringList, steps);
-    Clock clock = clockOf(series);
-    clock.Set_SYSCLKSelect(SYSCLK_PLL);
-    clock.Set_ConfigMode(PLLMODE_NORMAL);
-    QCOMPARE(told(clock, 1.0), steps.first());
-    QCOMPARE(told(clock, 1000.0), steps.last());
-    for (int i = 1; i < steps.size(); i += 2) {
-        const bool below = steps[i].startsWith(QLatin1Char('<'));
-        const double limit = steps[i].mid(below).toDouble();
-        QCOMPARE(told(clock, below ? std::nextafter(limit, 0.0) : limit), steps[i - 1]);
-        QCOMPARE(told(clock, below ? limit : std::nextafter(limit, 1e3)), steps[i + 1]);
     }
-}
 
-void ValuesTest::hertz()
-{
-    const qint64 most = std::numeric_limits<qint64>::max();
-    using Row = std::tuple<double, qint64, qint64>;
-    for (const auto& [megahertz, crystal, clock] :
-         {Row(12.5, 12500000, 12500000), Row(191.99996, 191999960, 192000000),
-          Row(4300.0, 4300000000, 4300000000), Row(1e300, most, most / 1000 * 1000),
-          Row(-qInf(), -most, -(most / 1000 * 1000)), Row(qQNaN(), 0, 0)}) {
-        QCOMPARE(crystalHertz(megahertz), crystal);
-        QCOMPARE(clockHertz(megahertz), clock);
+    void hertz()
+    {
+        const qint64 most = std::numeric_limits<qint64>::max();
+        using Row = std::tuple<double, qint64, qint64>;
+        for (const auto& [megahertz, crystal, clock] :
+             {Row(12.5, 12500000, 12500000), Row(191.99996, 191999960, 192000000),
+              Row(4300.0, 4300000000, 4300000000), Row(1e300, most, most / 1000 * 1000),
+              Row(-qInf(), -most, -(most / 1000 * 1000)), Row(qQNaN(), 0, 0)}) {
+            QCOMPARE(crystalHertz(megahertz), crystal);
+            QCOMPARE(clockHertz(megahertz), clock);
+        }
     }
-}
 
-void ValuesTest::commentsTheResult()
-{
-    const Setup hext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_HEXT); };
-    const Setup pllHext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL); };
-    const Setup pllAt72 = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLCLKValue(72.0); };
-    const Setup pllDivided = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLHEXTDIV(PLLHEXT_DIV); };
-    const Setup pllHick = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLRC(PLLRC_HICK); };
-    const Setup hick48 = [](Clock& c) { c.Set_HICK_TO_SCLK(HICK_TO_SCLK_NODIV); };
-    const PLLCONFIGMODE normal = PLLMODE_NORMAL;
-    const PLLCONFIGMODE flexible = PLLMODE_FLEXIBLE;
-    const char* const ranged = "pll_mult 24, pll_range GT72MHZ (greater than 72 mhz)";
-    // Series, mode, setup, the formula, and the words of the PLL's and the flash line.
-    using Row = std::tuple<const char*, PLLCONFIGMODE, Setup, const char*, const char*>;
-    for (const auto& [series, mode, setup, formula, lastLines] :
-         {Row("G110", normal, pllHick, "hick / 2 * pll_mult", ranged),
-          Row("G110", normal, pllAt72, "hext * pll_mult",
-              "pll_mult 24, pll_range LE72MHZ (less than 72 mhz or equal to 72 mhz)"),
-          Row("P212", normal, pllHick, "hick / 12 * pll_mult", ranged),
-          Row("G120", normal, pllDivided, "hext / 3 * pll_mult", ranged),
-          Row("G133", normal, pllHext, "hext * pll_mult", "pll_mult 24"),
-          Row("G135", normal, hick48, "(hick 48)", "flash_wtcyc 4 cycle"),
-          Row("G125", flexible, pllHick, "(hick / 12 * pll_ns)/(pll_ms * pll_fr)",
-              "pll_ns 192, pll_ms 2, pll_fr 8"),
-          Row("G165", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fp)",
-              "pll_ns 192, pll_ms 2, pll_fp 2"),
-          Row("H133", flexible, pllHext, "(hext * pll_ns)/(pll_ms * pll_fr) / 2",
-              "pll_ns 192, pll_ms 2, pll_fr 8"),
-          Row("H133", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fr)",
-              "pll_ns 192, pll_ms 2, pll_fr 8"),
-          Row("G174", flexible, hick48, "(hick 48 / 4)", ""), Row("G167", flexible, hext, "(hext / 3)", ""),
-          Row("P212", flexible, hext, "(hext)", "")}) {
-        Clock clock = clockOf(QLatin1String(series));
-        clock.Set_ConfigMode(mode);
-        clock.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);
-        clock.Set_HEXT_DIV(3);
-        clock.Set_SCLKHICK_DIV(4);
-        clock.Set_PLL_MUL(24);
-        clock.Set_SYSCLKValue(200.0);
-        clock.Set_PLLCLKValue(72.001);
-        setup(clock);
-        QString text = QStringLiteral("* @brief  system clock config program\n  * @retval none");
-        QVERIFY(clock.GenerateCode_result(text));
-        const QStringList lines = text.split(QLatin1Char('\n'));
-        QCOMPARE(lines.value(2),
-                 QStringLiteral("  *         system clock (sclk)   = ") + QLatin1String(formula));
-        const int last = lines.indexOf(QRegularExpression(QStringLiteral(".* apb2clk .*"))) + 1;
-        QStringList words;
-        for (const QString& line : lines.mid(last, lines.size() - last - 2))
-            words << line.section(QLatin1Char('='), 0, 0).mid(14).trimmed() +
-                         line.section(QLatin1Char('='), 1);
-        QCOMPARE(words.join(QStringLiteral(", ")), QLatin1String(lastLines));
+    void commentsTheResult()
+    {
+        const Setup hext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_HEXT); };
+        const Setup pllHext = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL); };
+        const Setup pllAt72 = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLCLKValue(72.0); };
+        const Setup pllDivided = [](Clock& c) {
+            c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLHEXTDIV(PLLHEXT_DIV);
+        };
+        const Setup pllHick = [](Clock& c) { c.Set_SYSCLKSelect(SYSCLK_PLL), c.Set_PLLRC(PLLRC_HICK); };
+        const Setup hick48 = [](Clock& c) { c.Set_HICK_TO_SCLK(HICK_TO_SCLK_NODIV); };
+        const PLLCONFIGMODE normal = PLLMODE_NORMAL;
+        const PLLCONFIGMODE flexible = PLLMODE_FLEXIBLE;
+        const char* const ranged = "pll_mult 24, pll_range GT72MHZ (greater than 72 mhz)";
+        // Series, mode, setup, the formula, and the words of the PLL's and the flash line.
+        using Row = std::tuple<const char*, PLLCONFIGMODE, Setup, const char*, const char*>;
+        for (const auto& [series, mode, setup, formula, lastLines] :
+             {Row("G110", normal, pllHick, "hick / 2 * pll_mult", ranged),
+              Row("G110", normal, pllAt72, "hext * pll_mult",
+                  "pll_mult 24, pll_range LE72MHZ (less than 72 mhz or equal to 72 mhz)"),
+              Row("P212", normal, pllHick, "hick / 12 * pll_mult", ranged),
+              Row("G120", normal, pllDivided, "hext / 3 * pll_mult", ranged),
+              Row("G133", normal, pllHext, "hext * pll_mult", "pll_mult 24"),
+              Row("G135", normal, hick48, "(hick 48)", "flash_wtcyc 4 cycle"),
+              Row("G125", flexible, pllHick, "(hick / 12 * pll_ns)/(pll_ms * pll_fr)",
+                  "pll_ns 192, pll_ms 2, pll_fr 8"),
+              Row("G165", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fp)",
+                  "pll_ns 192, pll_ms 2, pll_fp 2"),
+              Row("H133", flexible, pllHext, "(hext * pll_ns)/(pll_ms * pll_fr) / 2",
+                  "pll_ns 192, pll_ms 2, pll_fr 8"),
+              Row("H133", flexible, pllHick, "(hick / 6 * pll_ns)/(pll_ms * pll_fr)",
+                  "pll_ns 192, pll_ms 2, pll_fr 8"),
+              Row("G174", flexible, hick48, "(hick 48 / 4)", ""),
+              Row("G167", flexible, hext, "(hext / 3)", ""), Row("P212", flexible, hext, "(hext)", "")}) {
+            Clock clock = clockOf(QLatin1String(series));
+            clock.Set_ConfigMode(mode);
+            clock.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);
+            clock.Set_HEXT_DIV(3);
+            clock.Set_SCLKHICK_DIV(4);
+            clock.Set_PLL_MUL(24);
+            clock.Set_SYSCLKValue(200.0);
+            clock.Set_PLLCLKValue(72.001);
+            setup(clock);
+            QString text = "* @brief  system clock config program\n  * @retval none"_s;
+            QVERIFY(clock.GenerateCode_result(text));
+            const QStringList lines = text.split(QLatin1Char('\n'));
+            QCOMPARE(lines.value(2), "  *         system clock (sclk)   = "_s + QLatin1String(formula));
+            const int last = lines.indexOf(QRegularExpression(".* apb2clk .*"_s)) + 1;
+            QStringList words;
+            for (const QString& line : lines.mid(last, lines.size() - last - 2))
+                words << line.section(QLatin1Char('='), 0, 0).mid(14).trimmed() +
+                             line.section(QLatin1Char('='), 1);
+            QCOMPARE(words.join(", "_s), QLatin1String(lastLines));
+        }
     }
-}
+};
 
 QTEST_GUILESS_MAIN(ValuesTest)
 #include "tst_values.moc"
