@@ -69,7 +69,7 @@ QStringList expectedMainCalls(const ZN64ConfigCLK& clock)
     const auto add = [&calls](const char* name, std::initializer_list<int> values) {
         QString call = QLatin1String(name);
         for (int value : values)
-            call += QLatin1Char(' ') + QString::number(value);
+            call += u' ' + QString::number(value);
         calls << call;
     };
     const bool dual = clock.traits().dual_clkout;

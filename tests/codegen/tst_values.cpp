@@ -16,7 +16,7 @@ Q_DECLARE_METATYPE(Expected)
 namespace {
 QStringList wordsOf(const char* text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(' '));
+    return QString::fromLatin1(text).split(u' ');
 }
 
 template <class Value>
@@ -163,7 +163,7 @@ void peripheralRows()
     for (int divisor = 2; divisor <= 31; ++divisor)
         rtc += QString::number(divisor);
     row(FIELD(RTC_DIV, ERTCDIV_Define_String),
-        listed("CRM_ERTC_CLOCK_HEXT_DIV_%1", qPrintable(rtc.join(QLatin1Char(' ')))));
+        listed("CRM_ERTC_CLOCK_HEXT_DIV_%1", qPrintable(rtc.join(u' '))));
     row(FIELD(ToADCDIV, ADCDIV_Define_String), listed("CRM_ADC_DIV_%1", "2 3 4 5 6 8 12 16"));
     row(FIELD(adc_Clock_Source, ADCClockSource_Define_String),
         counted("CRM_ADC_CLOCK_SOURCE_%1", "HCLK PLLCLK"));
@@ -185,7 +185,7 @@ QString commented(const Clock& clock, const char* item)
 {
     QString text = "* @brief  system clock config program\n  * @retval none"_s;
     clock.GenerateCode_result(text);
-    return text.section(QLatin1String(item), 1).section("= "_s, 1).section(QLatin1Char(' '), 0, 0);
+    return text.section(QLatin1String(item), 1).section("= "_s, 1).section(u' ', 0, 0);
 }
 
 QString flashDivider(Clock& clock, double sysclk)
@@ -200,7 +200,7 @@ QString autoStep(Clock& clock, double sysclk)
     clock.Set_SYSCLKValue(sysclk);
     QString text = "[#enable auto step mode]\non\n[/#enable auto step mode]\n"
                    "[#disable auto step mode]\noff\n[/#disable auto step mode]\n"_s;
-    return clock.GenerateCode_autostepmode(text) ? text.simplified().remove(QLatin1Char(' ')) : QString();
+    return clock.GenerateCode_autostepmode(text) ? text.simplified().remove(u' ') : QString();
 }
 
 QString sysclkSwitch(Clock& clock, double sysclk)
@@ -209,8 +209,8 @@ QString sysclkSwitch(Clock& clock, double sysclk)
     QString text = "[#pll sysclock]\n[#sysclock < 168]\nplain;\n[/#sysclock < 168]\n"
                    "[#sysclock >= 168]\nsteps;\n[/#sysclock >= 168]\n[/#pll sysclock]\n"_s;
     const bool done = clock.GenerateCode_pllsysclock(text);
-    return QLatin1String(done && text.contains(QLatin1String("plain;")) ? "plain" : "") +
-           QLatin1String(done && text.contains(QLatin1String("steps;")) ? "steps" : "");
+    return QLatin1String(done && text.contains("plain;"_s) ? "plain" : "") +
+           QLatin1String(done && text.contains("steps;"_s) ? "steps" : "");
 }
 } // namespace
 
@@ -325,7 +325,7 @@ private slots:
         QCOMPARE(told(clock, 1.0), steps.first());
         QCOMPARE(told(clock, 1000.0), steps.last());
         for (int i = 1; i < steps.size(); i += 2) {
-            const bool below = steps[i].startsWith(QLatin1Char('<'));
+            const bool below = steps[i].startsWith(u'<');
             const double limit = steps[i].mid(below).toDouble();
             QCOMPARE(told(clock, below ? std::nextafter(limit, 0.0) : limit), steps[i - 1]);
             QCOMPARE(told(clock, below ? limit : std::nextafter(limit, 1e3)), steps[i + 1]);
@@ -389,13 +389,12 @@ private slots:
             setup(clock);
             QString text = "* @brief  system clock config program\n  * @retval none"_s;
             QVERIFY(clock.GenerateCode_result(text));
-            const QStringList lines = text.split(QLatin1Char('\n'));
+            const QStringList lines = text.split(u'\n');
             QCOMPARE(lines.value(2), "  *         system clock (sclk)   = "_s + QLatin1String(formula));
             const int last = lines.indexOf(QRegularExpression(".* apb2clk .*"_s)) + 1;
             QStringList words;
             for (const QString& line : lines.mid(last, lines.size() - last - 2))
-                words << line.section(QLatin1Char('='), 0, 0).mid(14).trimmed() +
-                             line.section(QLatin1Char('='), 1);
+                words << line.section(u'=', 0, 0).mid(14).trimmed() + line.section(u'=', 1);
             QCOMPARE(words.join(", "_s), QLatin1String(lastLines));
         }
     }

@@ -15,9 +15,8 @@ static bool isAllowed(const QString& header)
 {
     static const QRegularExpression standardHeader(QStringLiteral("^[a-z_]+$"));
     return standardHeader.match(header).hasMatch() ||
-           (!header.contains(QLatin1Char('/')) &&
-            (QFile::exists(QStringLiteral(MODEL_SOURCE_DIR "/") + header) ||
-             QFile::exists(QStringLiteral(QTCORE_HEADERS "/") + header)));
+           (!header.contains(u'/') && (QFile::exists(QStringLiteral(MODEL_SOURCE_DIR "/") + header) ||
+                                       QFile::exists(QStringLiteral(QTCORE_HEADERS "/") + header)));
 }
 
 void TestModelLayer::needsQtCoreAlone()

@@ -42,7 +42,7 @@ private:
         QStringList texts;
         for (int tab = 0; tab < 4; ++tab)
             texts += label(tab)->text();
-        return texts.join(QLatin1Char(' '));
+        return texts.join(u' ');
     }
     QString folder() const { return m_folder->path(); }
     void write(const QString& name, const QByteArray& text) { QVERIFY(writeFile(folder() + name, text)); }
@@ -128,7 +128,7 @@ void TestCodeView::clickedTabIsHighlightedAndStaysSoAfterAReload()
     QCOMPARE(m_view->findChild<QTabWidget*>()->currentWidget(), editor(2));
     for (int round = 0; round < 2; ++round) {
         for (int tab = 0; tab < 4; ++tab)
-            QCOMPARE(label(tab)->styleSheet().contains(QLatin1String("rgb(123, 199, 233)")), tab == 2);
+            QCOMPARE(label(tab)->styleSheet().contains("rgb(123, 199, 233)"_s), tab == 2);
         m_view->TabWidgetTabBarClicked(-1);
         load("zn64g110"_s);
     }

@@ -60,13 +60,13 @@ struct FormFixture
         const QString page = code ? "code"_s : "clock"_s;
         if (!design())
             return page;
-        return page + QLatin1Char(' ') + QLatin1String(design()->metaObject()->className()).chopped(3);
+        return page + u' ' + QLatin1String(design()->metaObject()->className()).chopped(3);
     }
 
     /// Leads the form to a state that state() tells.
     void enter(const QString& wanted)
     {
-        const QString series = wanted.section(QLatin1Char(' '), 1);
+        const QString series = wanted.section(u' ', 1);
         if (!series.isEmpty()) {
             DialogAnswers answers;
             if (design())
@@ -74,7 +74,7 @@ struct FormFixture
             answers.add(DialogAnswers::choose(designFile(series)));
             run("m_Open_Action"_s);
         }
-        if (wanted.startsWith(QLatin1String("code")))
+        if (wanted.startsWith("code"_s))
             run("m_CodeView_PushButton"_s);
         QCOMPARE(state(), wanted);
     }
@@ -113,6 +113,6 @@ struct FormFixture
 private:
     static bool isLit(const QPushButton* button)
     {
-        return button->styleSheet().contains(QLatin1String("rgb(57, 169, 220)"));
+        return button->styleSheet().contains("rgb(57, 169, 220)"_s);
     }
 };

@@ -47,8 +47,8 @@ private slots:
 
     void titleNamesTheVersionOfTheUpdateCheck()
     {
-        const QString version = m_program->form.windowTitle().section(QLatin1Char(' '), -1);
-        QVERIFY(version.startsWith(QLatin1Char('V')));
+        const QString version = m_program->form.windowTitle().section(u' ', -1);
+        QVERIFY(version.startsWith(u'V'));
         QCOMPARE(FormConfiguration::VersionString2Int(version.mid(1)), ProgramVersion);
     }
 
@@ -209,12 +209,12 @@ private:
     /// "pick" or "open" and a series, "close", or the text of the button to press.
     DialogAnswers::Answer answer(const QString& words) const
     {
-        const QString series = words.section(QLatin1Char(' '), 1);
-        if (words.startsWith(QLatin1String("pick")))
+        const QString series = words.section(u' ', 1);
+        if (words.startsWith("pick"_s))
             return FormFixture::pick(series);
-        if (words.startsWith(QLatin1String("open")))
+        if (words.startsWith("open"_s))
             return DialogAnswers::choose(m_program->designFile(series));
-        if (words == QLatin1String("close"))
+        if (words == "close"_s)
             return DialogAnswers::close();
         return DialogAnswers::press(words.toUtf8().constData());
     }

@@ -54,10 +54,7 @@ QSet<QString> literalsOfThePages()
     }
     QSet<QString> literals;
     for (auto match = literal.globalMatch(code.remove(seam)); match.hasNext();)
-        literals += match.next()
-                        .captured(1)
-                        .replace(QLatin1String("\\n"), QLatin1String("\n"))
-                        .replace(QLatin1String("\\\""), QLatin1String("\""));
+        literals += match.next().captured(1).replace("\\n"_s, "\n"_s).replace("\\\""_s, "\""_s);
     return literals;
 }
 
