@@ -1,4 +1,5 @@
 #include "canvas/ZN64MCUPLL.h"
+#include "testdata.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -6,7 +7,6 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QWheelEvent>
 
 // Real events go through the view's viewport, as a user's do, and never straight to the control.
@@ -16,29 +16,209 @@ class TestControls : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void initTestCase()
+    {
+        QPixmap picture(1408, 830);
+        picture.fill(Qt::white);
+        QVERIFY(picture.save(m_folder.filePath("picture.bmp"_s)));
+    }
+
+    void init()
+    {
+        m_page.reset(new ZN64MCUPLL(ZN64G110, m_folder.filePath("picture.bmp"_s), nullptr));
+        m_combo = m_page->NewComboBoxInScenePos(700, 400, 80, 0);
+        m_combo->addItems({"none"_s, "PA8"_s, "PA9"_s});
+        m_combo->setFixedHeight(25);
+        m_edit = m_page->NewCustomLineEditInScenePos("8"_s, 300, 300, 80);
+        m_radio = m_page->NewRadioButtonInScenePos(500, 300);
+        m_button = m_page->New_toperipheralListButton(600, 300, 0);
+        m_label = m_page->NewQLabelInScenePos(QString(), 300, 500, 10, 0);
+        m_page->resize(1000, 700);
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
+    }
+
     void comboOpensAtItsPlace_data() { zooms(true); }
-    void comboOpensAtItsPlace();
+    void comboOpensAtItsPlace()
+    {
+        zoomTo(m_combo);
+        click(middleOf(m_combo));
+        const QAbstractItemView* list = m_combo->view();
+        QTRY_VERIFY(list->isVisible());
+
+        const QGraphicsProxyWidget* popup = list->window()->graphicsProxyWidget();
+        if (!popup)
+            popup = list->parentWidget()->graphicsProxyWidget();
+        QVERIFY(popup);
+        const QRectF combo = ZN64MCUPLL::proxyOf(m_combo)->sceneBoundingRect();
+        const QRectF opened = popup->sceneBoundingRect();
+        QVERIFY(qAbs(opened.left() - combo.left()) < 10);
+        QVERIFY(opened.adjusted(0, -5, 0, 5).intersects(combo));
+        QVERIFY(opened.width() >= combo.width() - 10 && opened.height() >= 2 * combo.height());
+
+        const QRect item = list->visualRect(m_combo->model()->index(2, 0));
+        const QPoint inPopup = list->viewport()->mapTo(list->parentWidget(), item.center());
+        const QPoint target = m_page->view()->mapFromScene(popup->mapToScene(inPopup));
+        QVERIFY(viewport()->rect().contains(target));
+        click(target);
+        QTRY_VERIFY(!list->isVisible());
+        QCOMPARE(m_combo->currentText(), "PA9"_s);
+    }
+
     void editTakesCaretAndText_data() { zooms(false); }
-    void editTakesCaretAndText();
+    void editTakesCaretAndText()
+    {
+        zoomTo(m_edit);
+        m_edit->setText("12345"_s);
+        click(onViewport(m_edit, QPoint(m_edit->width() - 3, m_edit->height() / 2)));
+        QVERIFY(m_edit->hasFocus());
+        QCOMPARE(m_edit->cursorPosition(), 5);
+        QTest::keyClicks(viewport(), ".5"_s);
+        click(onViewport(m_edit, QPoint(3, m_edit->height() / 2)));
+        QCOMPARE(m_edit->cursorPosition(), 0);
+        QTest::keyClicks(viewport(), "9"_s);
+        QCOMPARE(m_edit->text(), "912345.5"_s);
+    }
+
     void buttonsTakeClicks_data() { zooms(false); }
-    void buttonsTakeClicks();
-    void wheelOverAComboDoesNothing();
-    void popupTellsItsFocusToTheView();
-    void escapeLeavesTheEdit();
-    void pressOnAControlStartsNoPan();
-    void comboKeepsItsChoiceWhenGreyed();
-    void wrapperFollowsItsControl();
+    void buttonsTakeClicks()
+    {
+        zoomTo(m_radio);
+        click(middleOf(m_radio));
+        QVERIFY(m_radio->isChecked());
+
+        m_page->view()->zoomReset();
+        QSignalSpy clicked(m_button, &QPushButton::clicked);
+        zoomTo(m_button);
+        click(middleOf(m_button));
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void wheelOverAComboDoesNothing()
+    {
+        m_combo->setCurrentIndex(1);
+        m_page->resize(500, 300);
+        m_page->view()->centerOn(700, 400);
+        const QPoint pos = middleOf(m_combo);
+        for (int delta : {120, -120}) {
+            for (auto modifiers : {Qt::NoModifier, Qt::ControlModifier}) {
+                QWheelEvent event(pos, viewport()->mapToGlobal(pos), QPoint(), QPoint(0, delta), Qt::NoButton,
+                                  modifiers, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(viewport(), &event);
+                QCOMPARE(m_combo->currentIndex(), 1);
+                // Neither scrolled nor zoomed.
+                QVERIFY(m_page->view()->transform().isIdentity());
+                QCOMPARE(middleOf(m_combo), pos);
+            }
+        }
+    }
+
+    void popupTellsItsFocusToTheView()
+    {
+        QSignalSpy focus(m_combo->listView(), &CustomListView::focusInThis);
+        QSignalSpy clicked(m_combo, &CustomComboBox1::clicked);
+        click(middleOf(m_combo));
+        QTRY_COMPARE(focus.count(), 1);
+        QCOMPARE(focus.takeFirst().first().toBool(), true);
+        QCOMPARE(clicked.count(), 1);
+        QTest::keyClick(viewport(), Qt::Key_Escape);
+        QTRY_COMPARE(focus.count(), 1);
+        QCOMPARE(focus.takeFirst().first().toBool(), false);
+        QVERIFY(m_combo->isVisible());
+        // Only a connection that was there can be cut.
+        QVERIFY(disconnect(m_combo->listView(), SIGNAL(focusInThis(bool)), m_page->view(),
+                           SLOT(Focus_InControl_Slot(bool))));
+    }
+
+    void escapeLeavesTheEdit()
+    {
+        click(middleOf(m_edit));
+        QVERIFY(m_edit->hasFocus());
+        QTest::keyClick(viewport(), Qt::Key_Escape);
+        QVERIFY(m_edit->isVisible());
+        QVERIFY(ZN64MCUPLL::proxyOf(m_edit)->isVisible());
+        QTest::keyClicks(viewport(), "8"_s);
+        QVERIFY(m_edit->text().contains("88"_s));
+    }
+
+    void pressOnAControlStartsNoPan()
+    {
+        m_label->setText("lick(kHz)"_s);
+        QCoreApplication::processEvents();
+        for (const QWidget* control :
+             {static_cast<const QWidget*>(m_edit), static_cast<const QWidget*>(m_label),
+              static_cast<const QWidget*>(m_radio)}) {
+            QTest::mousePress(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(control));
+            QVERIFY2(viewport()->cursor().shape() != Qt::OpenHandCursor, control->metaObject()->className());
+            QTest::mouseRelease(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(control));
+        }
+        QTest::mousePress(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(m_edit) + QPoint(0, 60));
+        QCOMPARE(viewport()->cursor().shape(), Qt::OpenHandCursor);
+    }
+
+    void comboKeepsItsChoiceWhenGreyed()
+    {
+        m_combo->setCurrentIndex(1);
+        m_combo->setEnabledStatus(false);
+        click(middleOf(m_combo));
+        QVERIFY(!m_combo->view()->isVisible());
+        QCOMPARE(m_combo->currentText(), "PA8"_s);
+    }
+
+    void wrapperFollowsItsControl()
+    {
+        const QGraphicsProxyWidget* item = ZN64MCUPLL::proxyOf(m_label);
+        for (const char* text : {"(192.000 MHz)", "", "(8.000 MHz)"}) {
+            m_label->setText(QLatin1String(text));
+            QTRY_COMPARE(item->size(), QSizeF(m_label->sizeHint()));
+        }
+    }
 
 private:
-    static void zooms(bool corners);
-    void zoomTo(const QWidget* control);
+    static void zooms(bool corners)
+    {
+        QTest::addColumn<float>("zoom");
+        QTest::addColumn<QPoint>("place");
+        for (int percent : {25, 100, 400}) {
+            const float zoom = static_cast<float>(percent) / 100;
+            QTest::addRow("%d%%", percent) << zoom << QPoint(700, 400);
+            if (!corners)
+                continue;
+            QTest::addRow("%d%%, top left", percent) << zoom << QPoint(0, 0);
+            QTest::addRow("%d%%, bottom right", percent) << zoom << QPoint(1320, 740);
+        }
+    }
+
+    void zoomTo(const QWidget* control)
+    {
+        QFETCH(float, zoom);
+        QFETCH(QPoint, place);
+        ZN64MCUPLL::proxyOf(control)->setPos(place);
+        m_page->view()->zoom(zoom);
+        m_page->view()->centerOn(place);
+    }
+
     QWidget* viewport() const { return m_page->view()->viewport(); }
-    QPoint onViewport(const QWidget* control, QPoint pos) const;
+    QPoint onViewport(const QWidget* control, QPoint pos) const
+    {
+        const QPointF onScene =
+            ZN64MCUPLL::proxyOf(control)->mapToScene(control->mapTo(control->window(), pos));
+        return m_page->view()->mapFromScene(onScene);
+    }
+
     QPoint middleOf(const QWidget* control) const { return onViewport(control, control->rect().center()); }
-    void move(QPoint pos);
-    void click(QPoint pos);
+    void move(QPoint pos)
+    {
+        QMouseEvent event(QEvent::MouseMove, pos, viewport()->mapToGlobal(pos), Qt::NoButton, Qt::NoButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(viewport(), &event);
+    }
+
+    void click(QPoint pos)
+    {
+        move(pos);
+        QTest::mouseClick(viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    }
 
     QTemporaryDir m_folder;
     QScopedPointer<ZN64MCUPLL> m_page;
@@ -48,202 +228,6 @@ private:
     QPushButton* m_button = nullptr;
     QLabel* m_label = nullptr;
 };
-
-void TestControls::initTestCase()
-{
-    QPixmap picture(1408, 830);
-    picture.fill(Qt::white);
-    QVERIFY(picture.save(m_folder.filePath(QStringLiteral("picture.bmp"))));
-}
-
-void TestControls::init()
-{
-    m_page.reset(new ZN64MCUPLL(ZN64G110, m_folder.filePath(QStringLiteral("picture.bmp")), nullptr));
-    m_combo = m_page->NewComboBoxInScenePos(700, 400, 80, 0);
-    m_combo->addItems({QStringLiteral("none"), QStringLiteral("PA8"), QStringLiteral("PA9")});
-    m_combo->setFixedHeight(25);
-    m_edit = m_page->NewCustomLineEditInScenePos(QStringLiteral("8"), 300, 300, 80);
-    m_radio = m_page->NewRadioButtonInScenePos(500, 300);
-    m_button = m_page->New_toperipheralListButton(600, 300, 0);
-    m_label = m_page->NewQLabelInScenePos(QString(), 300, 500, 10, 0);
-    m_page->resize(1000, 700);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
-}
-
-void TestControls::zooms(bool corners)
-{
-    QTest::addColumn<float>("zoom");
-    QTest::addColumn<QPoint>("place");
-    for (int percent : {25, 100, 400}) {
-        const float zoom = static_cast<float>(percent) / 100;
-        QTest::addRow("%d%%", percent) << zoom << QPoint(700, 400);
-        if (!corners)
-            continue;
-        QTest::addRow("%d%%, top left", percent) << zoom << QPoint(0, 0);
-        QTest::addRow("%d%%, bottom right", percent) << zoom << QPoint(1320, 740);
-    }
-}
-
-void TestControls::zoomTo(const QWidget* control)
-{
-    QFETCH(float, zoom);
-    QFETCH(QPoint, place);
-    ZN64MCUPLL::proxyOf(control)->setPos(place);
-    m_page->view()->zoom(zoom);
-    m_page->view()->centerOn(place);
-}
-
-QPoint TestControls::onViewport(const QWidget* control, QPoint pos) const
-{
-    const QPointF onScene = ZN64MCUPLL::proxyOf(control)->mapToScene(control->mapTo(control->window(), pos));
-    return m_page->view()->mapFromScene(onScene);
-}
-
-void TestControls::move(QPoint pos)
-{
-    QMouseEvent event(QEvent::MouseMove, pos, viewport()->mapToGlobal(pos), Qt::NoButton, Qt::NoButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(viewport(), &event);
-}
-
-void TestControls::click(QPoint pos)
-{
-    move(pos);
-    QTest::mouseClick(viewport(), Qt::LeftButton, Qt::NoModifier, pos);
-}
-
-void TestControls::comboOpensAtItsPlace()
-{
-    zoomTo(m_combo);
-    click(middleOf(m_combo));
-    const QAbstractItemView* list = m_combo->view();
-    QTRY_VERIFY(list->isVisible());
-
-    const QGraphicsProxyWidget* popup = list->window()->graphicsProxyWidget();
-    if (!popup)
-        popup = list->parentWidget()->graphicsProxyWidget();
-    QVERIFY(popup);
-    const QRectF combo = ZN64MCUPLL::proxyOf(m_combo)->sceneBoundingRect();
-    const QRectF opened = popup->sceneBoundingRect();
-    QVERIFY(qAbs(opened.left() - combo.left()) < 10);
-    QVERIFY(opened.adjusted(0, -5, 0, 5).intersects(combo));
-    QVERIFY(opened.width() >= combo.width() - 10 && opened.height() >= 2 * combo.height());
-
-    const QRect item = list->visualRect(m_combo->model()->index(2, 0));
-    const QPoint inPopup = list->viewport()->mapTo(list->parentWidget(), item.center());
-    const QPoint target = m_page->view()->mapFromScene(popup->mapToScene(inPopup));
-    QVERIFY(viewport()->rect().contains(target));
-    click(target);
-    QTRY_VERIFY(!list->isVisible());
-    QCOMPARE(m_combo->currentText(), QStringLiteral("PA9"));
-}
-
-void TestControls::editTakesCaretAndText()
-{
-    zoomTo(m_edit);
-    m_edit->setText(QStringLiteral("12345"));
-    click(onViewport(m_edit, QPoint(m_edit->width() - 3, m_edit->height() / 2)));
-    QVERIFY(m_edit->hasFocus());
-    QCOMPARE(m_edit->cursorPosition(), 5);
-    QTest::keyClicks(viewport(), QStringLiteral(".5"));
-    click(onViewport(m_edit, QPoint(3, m_edit->height() / 2)));
-    QCOMPARE(m_edit->cursorPosition(), 0);
-    QTest::keyClicks(viewport(), QStringLiteral("9"));
-    QCOMPARE(m_edit->text(), QStringLiteral("912345.5"));
-}
-
-void TestControls::buttonsTakeClicks()
-{
-    zoomTo(m_radio);
-    click(middleOf(m_radio));
-    QVERIFY(m_radio->isChecked());
-
-    m_page->view()->zoomReset();
-    QSignalSpy clicked(m_button, &QPushButton::clicked);
-    zoomTo(m_button);
-    click(middleOf(m_button));
-    QCOMPARE(clicked.count(), 1);
-}
-
-void TestControls::wheelOverAComboDoesNothing()
-{
-    m_combo->setCurrentIndex(1);
-    m_page->resize(500, 300);
-    m_page->view()->centerOn(700, 400);
-    const QPoint pos = middleOf(m_combo);
-    for (int delta : {120, -120}) {
-        for (auto modifiers : {Qt::NoModifier, Qt::ControlModifier}) {
-            QWheelEvent event(pos, viewport()->mapToGlobal(pos), QPoint(), QPoint(0, delta), Qt::NoButton,
-                              modifiers, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(viewport(), &event);
-            QCOMPARE(m_combo->currentIndex(), 1);
-            // Neither scrolled nor zoomed.
-            QVERIFY(m_page->view()->transform().isIdentity());
-            QCOMPARE(middleOf(m_combo), pos);
-        }
-    }
-}
-
-void TestControls::popupTellsItsFocusToTheView()
-{
-    QSignalSpy focus(m_combo->listView(), &CustomListView::focusInThis);
-    QSignalSpy clicked(m_combo, &CustomComboBox1::clicked);
-    click(middleOf(m_combo));
-    QTRY_COMPARE(focus.count(), 1);
-    QCOMPARE(focus.takeFirst().first().toBool(), true);
-    QCOMPARE(clicked.count(), 1);
-    QTest::keyClick(viewport(), Qt::Key_Escape);
-    QTRY_COMPARE(focus.count(), 1);
-    QCOMPARE(focus.takeFirst().first().toBool(), false);
-    QVERIFY(m_combo->isVisible());
-    // Only a connection that was there can be cut.
-    QVERIFY(disconnect(m_combo->listView(), SIGNAL(focusInThis(bool)), m_page->view(),
-                       SLOT(Focus_InControl_Slot(bool))));
-}
-
-void TestControls::escapeLeavesTheEdit()
-{
-    click(middleOf(m_edit));
-    QVERIFY(m_edit->hasFocus());
-    QTest::keyClick(viewport(), Qt::Key_Escape);
-    QVERIFY(m_edit->isVisible());
-    QVERIFY(ZN64MCUPLL::proxyOf(m_edit)->isVisible());
-    QTest::keyClicks(viewport(), QStringLiteral("8"));
-    QVERIFY(m_edit->text().contains(QStringLiteral("88")));
-}
-
-void TestControls::pressOnAControlStartsNoPan()
-{
-    m_label->setText(QStringLiteral("lick(kHz)"));
-    QCoreApplication::processEvents();
-    for (const QWidget* control : {static_cast<const QWidget*>(m_edit), static_cast<const QWidget*>(m_label),
-                                   static_cast<const QWidget*>(m_radio)}) {
-        QTest::mousePress(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(control));
-        QVERIFY2(viewport()->cursor().shape() != Qt::OpenHandCursor, control->metaObject()->className());
-        QTest::mouseRelease(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(control));
-    }
-    QTest::mousePress(viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(m_edit) + QPoint(0, 60));
-    QCOMPARE(viewport()->cursor().shape(), Qt::OpenHandCursor);
-}
-
-void TestControls::comboKeepsItsChoiceWhenGreyed()
-{
-    m_combo->setCurrentIndex(1);
-    m_combo->setEnabledStatus(false);
-    click(middleOf(m_combo));
-    QVERIFY(!m_combo->view()->isVisible());
-    QCOMPARE(m_combo->currentText(), QStringLiteral("PA8"));
-}
-
-void TestControls::wrapperFollowsItsControl()
-{
-    const QGraphicsProxyWidget* item = ZN64MCUPLL::proxyOf(m_label);
-    for (const char* text : {"(192.000 MHz)", "", "(8.000 MHz)"}) {
-        m_label->setText(QLatin1String(text));
-        QTRY_COMPARE(item->size(), QSizeF(m_label->sizeHint()));
-    }
-}
 
 QTEST_MAIN(TestControls)
 #include "tst_controls.moc"

@@ -198,10 +198,10 @@ QString clockPiece(const QString& word)
         {QStringLiteral("comment"), "* @brief  system clock config program\n  * @retval none\n"        }
     };
     const QString piece = QLatin1String(pieces.value(word));
-    if (piece.endsWith(QLatin1Char('\n')))
+    if (piece.endsWith(u'\n'))
         return piece;
     QString sections;
-    for (const QString& name : piece.split(QLatin1Char(',')))
+    for (const QString& name : piece.split(u','))
         sections += QStringLiteral("[#%1]\nx;\n[/#%1]\n\n").arg(name);
     return sections;
 }
@@ -216,12 +216,12 @@ QString mainPiece(const QString& word)
 /// A chain must resolve the text of all words, and refuse a text that lacks one.
 void checkChain(const Clock& clock, const QString& words, Fragment generate, QString (*piece)(const QString&))
 {
-    const QStringList all = words.split(QLatin1Char(' '));
+    const QStringList all = words.split(u' ');
     for (int missing = -1; missing < all.size(); ++missing) {
         QString text;
         for (int i = 0; i < all.size(); ++i)
             text += i == missing ? QString() : piece(all[i]);
-        const QString place = clock.traits().name() + QLatin1Char(' ') + all.value(missing);
+        const QString place = clock.traits().name() + u' ' + all.value(missing);
         QVERIFY2((clock.*generate)(text) == (missing < 0), qPrintable(place));
         if (missing < 0)
             QVERIFY2(!text.contains(QRegularExpression(QStringLiteral(R"(#|\(A\)|mx_)"))), qPrintable(text));
@@ -247,7 +247,7 @@ void FragmentsTest::chainsTouchTheirSections()
           Row("P212 P216", "psr ldo bypass hext hick pll step apb3", "clkout rtc can"),
           Row("G142 G146", "psr ldo bypass hext hick pll step apb3", "clkout rtc adc can"),
           Row("G150 G152", "ldo flash bypass hext hick pll step usb hickusb", "clkout1 clkout2 rtc")}) {
-        for (const QString& word : QString::fromLatin1(series).split(QLatin1Char(' '))) {
+        for (const QString& word : QString::fromLatin1(series).split(u' ')) {
             Clock design = clockOf(word);
             design.Set_SYSCLKSelect(7); // none of the three: every section goes away
             design.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);

@@ -31,7 +31,7 @@ void GoldenTest::matches_data()
          {"g110_stepped clock.c", "g110_stepped main.c", "g110_hick clock.c", "g110_hick main.c",
           "g150_pll clock.c", "g150_pll main.c", "g150_hick48 clock.c", "g150_hick48 main.c",
           "g110_hick clock.h", "g110_hick conf.h", "g150_pll clock.h", "g150_pll conf.h"}) {
-        const QStringList words = QString::fromLatin1(name).split(QLatin1Char(' '));
+        const QStringList words = QString::fromLatin1(name).split(u' ');
         QTest::newRow(name) << words[0] << words[1];
     }
 }
@@ -45,11 +45,10 @@ void GoldenTest::matches()
     QTemporaryDir base;
     QVERIFY(firmware::generate(clock, base.path(), stem));
     const QString folder = file.endsWith(QLatin1String(".h")) ? QStringLiteral("inc") : QStringLiteral("src");
-    const QString name = file == QLatin1String("main.c") ? file : stem + QLatin1Char('_') + file;
-    const QStringList made =
-        readRaw(base.filePath(folder + QLatin1Char('/') + name)).split(QLatin1Char('\n'));
+    const QString name = file == QLatin1String("main.c") ? file : stem + u'_' + file;
+    const QStringList made = readRaw(base.filePath(folder + u'/' + name)).split(u'\n');
     const QStringList wanted =
-        readRaw(QStringLiteral(EXPECTED_DIR "/%1_%2.txt").arg(design, file)).split(QLatin1Char('\n'));
+        readRaw(QStringLiteral(EXPECTED_DIR "/%1_%2.txt").arg(design, file)).split(u'\n');
     QVERIFY(wanted.size() > 10);
     for (int i = 0; i < qMin(made.size(), wanted.size()); ++i)
         QVERIFY2(made[i] == wanted[i],

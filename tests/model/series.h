@@ -14,7 +14,7 @@ using Setup = std::function<void(ZN64ConfigCLK&)>;
 /// The words of a text with blanks between them.
 inline QStringList wordsOf(const char* text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
 }
 
 /// A model of each series whose word the text names.

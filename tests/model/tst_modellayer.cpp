@@ -17,7 +17,7 @@ static bool isAllowed(const QString& header)
     if (header.startsWith(QLatin1String("model/")))
         return QFile::exists(QStringLiteral(MODEL_SOURCE_DIR "/../") + header);
     return standardHeader.match(header).hasMatch() ||
-           (!header.contains(QLatin1Char('/')) &&
+           (!header.contains(u'/') &&
             QFile::exists(QStringLiteral(QTCORE_HEADERS "/") + header));
 }
 

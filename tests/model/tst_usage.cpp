@@ -29,7 +29,7 @@ static void ask(const char* name, bool (ZN64ConfigCLK::*question)() const, const
         model.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);
         setup(model);
         QVERIFY2((model.*question)() == wordsOf(words).contains(QLatin1String(traits.word)),
-                 qPrintable(QLatin1String(name) + QLatin1Char(' ') + traits.name()));
+                 qPrintable(QLatin1String(name) + u' ' + traits.name()));
     }
 }
 

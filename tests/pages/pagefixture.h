@@ -4,6 +4,7 @@
 #include "pages/series/seriespages.h"
 #include "widgets/dialoganswers.h"
 
+#include <QFile>
 #include <QGraphicsScene>
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -21,10 +22,13 @@ public:
         page->show();
         if (!QTest::qWaitForWindowActive(page.data()))
             qFatal("the page did not show");
-        // A box that nobody expects would stay for good.
-        m_watch.callOnTimeout([] {
-            if (const QWidget* box = QApplication::activeModalWidget())
+        // A box that nobody expects would stay for good; one that is about to be answered is gone by the next
+        // tick.
+        m_watch.callOnTimeout([this] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (box && box == m_lastBox)
                 qFatal("left open: %s", qPrintable(box->property("text").toString()));
+            m_lastBox = box;
         });
         m_watch.start(10000);
     }
@@ -82,6 +86,8 @@ private:
     static QString text(const QWidget* control);
 
     QTimer m_watch;
+    /// What was open at the last tick.
+    QPointer<QWidget> m_lastBox;
 };
 
 inline void PageFixture::take(const QString& steps) const
@@ -248,6 +254,19 @@ inline void pageRows()
     for (const SeriesTraits& traits : seriesList())
         if (hasSeriesPage(traits.series))
             QTest::newRow(traits.word) << QString::fromLatin1(traits.word);
+}
+
+/// The same for those whose templates the program carries.
+inline void templateRows()
+{
+    QTest::addColumn<QString>("word");
+    for (const SeriesTraits& traits : seriesList()) {
+        if (!hasSeriesPage(traits.series))
+            continue;
+        const QScopedPointer<ClockTreePage> page(createSeriesPage(traits.series, nullptr));
+        if (QFile::exists(QStringLiteral(":/image/%1_main.c").arg(QLatin1String(page->description().stem))))
+            QTest::newRow(traits.word) << QString::fromLatin1(traits.word);
+    }
 }
 
 inline bool hasPage(const QString& word)

@@ -20,7 +20,7 @@ public slots:
 private slots:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init();
-    void firstRunAsksNothing_data() { pageRows(); }
+    void firstRunAsksNothing_data() { templateRows(); }
     void firstRunAsksNothing();
     void conflicts_data();
     void conflicts();

@@ -3,26 +3,18 @@
 #include "preview/FormCodeView.h"
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"
+#include "testdata.h"
 
 #include <QDir>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
 const char* const editorNames[] = {"m_main_c_CodeEditor", "m_clock_c_CodeEditor", "m_conf_h_CodeEditor",
                                    "m_clock_h_CodeEditor"};
-
-void write(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
 
 } // namespace
 
@@ -33,7 +25,7 @@ class TestCodeView : public QObject
 private slots:
     void init();
     void stemsAgreeWithTheGenerator();
-    void everyFileLandsInItsTabAndNamesMoveUp();
+    void filesLandInTheirTabsToBeRead();
     void scrollPositionSurvivesAReload();
     void clickedTabIsHighlightedAndStaysSoAfterAReload();
     void foldAllFoldsOnceUntilExpandAll();
@@ -44,18 +36,16 @@ private:
         return m_view->findChild<MyQsciScintilla*>(QLatin1String(editorNames[tab]));
     }
     QString text(int tab) { return editor(tab)->text(); }
-    QLabel* label(int tab)
-    {
-        return m_view->findChild<QLabel*>(QStringLiteral("m_tabLable_List_%1").arg(tab));
-    }
+    QLabel* label(int tab) { return m_view->findChild<QLabel*>("m_tabLable_List_%1"_s.arg(tab)); }
     QString labels()
     {
         QStringList texts;
         for (int tab = 0; tab < 4; ++tab)
             texts += label(tab)->text();
-        return texts.join(QLatin1Char(' '));
+        return texts.join(u' ');
     }
     QString folder() const { return m_folder->path(); }
+    void write(const QString& name, const QByteArray& text) { QVERIFY(writeFile(folder() + name, text)); }
     void load(const QString& series, const QByteArray& main = "int main(void)\n{\n  return 0;\n}\n");
 
     QScopedPointer<QTemporaryDir> m_folder;
@@ -71,13 +61,14 @@ void TestCodeView::init()
     QVERIFY(QTest::qWaitForWindowExposed(m_view.data()));
 }
 
-/// Loads four files of a series whose stem is its name.
+// Loads four files of a series whose stem is its name.
 void TestCodeView::load(const QString& series, const QByteArray& main)
 {
-    write(folder() + QStringLiteral("/src/main.c"), main);
-    write(folder() + QStringLiteral("/src/%1_clock.c").arg(series), "/* clock \xc2\xb5 source */\n");
-    write(folder() + QStringLiteral("/inc/%1_conf.h").arg(series), "/* configuration */\n");
-    write(folder() + QStringLiteral("/inc/%1_clock.h").arg(series), "/* clock header */\n");
+    QVERIFY(QDir(folder()).mkpath("src"_s) && QDir(folder()).mkpath("inc"_s));
+    write("/src/main.c"_s, main);
+    write("/src/%1_clock.c"_s.arg(series), "/* clock \xc2\xb5 source */\n");
+    write("/inc/%1_conf.h"_s.arg(series), "/* configuration */\n");
+    write("/inc/%1_clock.h"_s.arg(series), "/* clock header */\n");
     m_view->LoadCode(series, folder());
 }
 
@@ -94,33 +85,39 @@ void TestCodeView::stemsAgreeWithTheGenerator()
     QVERIFY(compared > 0);
 }
 
-void TestCodeView::everyFileLandsInItsTabAndNamesMoveUp()
+void TestCodeView::filesLandInTheirTabsToBeRead()
 {
-    load(QStringLiteral("zn64g110"));
-    QCOMPARE(labels(), QStringLiteral("main.c zn64g110_clock.c zn64g110_conf.h zn64g110_clock.h"));
-    QVERIFY(text(0).startsWith(QStringLiteral("int main")));
-    QCOMPARE(text(1), QString::fromUtf8("/* clock \xc2\xb5 source */\n"));
-    QCOMPARE(text(2), QStringLiteral("/* configuration */\n"));
-    QCOMPARE(text(3), QStringLiteral("/* clock header */\n"));
+    load("zn64g110"_s);
+    QCOMPARE(labels(), "main.c zn64g110_clock.c zn64g110_conf.h zn64g110_clock.h"_s);
+    QVERIFY(text(0).startsWith("int main"_s));
+    QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
+    QCOMPARE(text(2), "/* configuration */\n"_s);
+    QCOMPARE(text(3), "/* clock header */\n"_s);
+    for (int tab = 0; tab < 4; ++tab) {
+        const QString before = text(tab);
+        QTest::keyClicks(editor(tab), "typed"_s);
+        QTest::keyClick(editor(tab), Qt::Key_Delete);
+        QCOMPARE(text(tab), before);
+    }
 
     // Behind a missing file the labels count on, and its tab keeps its text.
-    write(folder() + QStringLiteral("/inc/zn64g120_conf.h"), "/* newer */\n");
-    write(folder() + QStringLiteral("/inc/zn64g120_clock.h"), "/* clock header */\n");
-    m_view->LoadCode(QStringLiteral("ZN64G120"), folder());
-    QCOMPARE(labels(), QStringLiteral("main.c zn64g120_conf.h zn64g120_clock.h zn64g110_clock.h"));
-    QCOMPARE(text(1), QString::fromUtf8("/* clock \xc2\xb5 source */\n"));
-    QCOMPARE(text(2), QStringLiteral("/* newer */\n"));
+    write("/inc/zn64g120_conf.h"_s, "/* newer */\n");
+    write("/inc/zn64g120_clock.h"_s, "/* clock header */\n");
+    m_view->LoadCode("ZN64G120"_s, folder());
+    QCOMPARE(labels(), "main.c zn64g120_conf.h zn64g120_clock.h zn64g110_clock.h"_s);
+    QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
+    QCOMPARE(text(2), "/* newer */\n"_s);
 }
 
 void TestCodeView::scrollPositionSurvivesAReload()
 {
     const QByteArray line("int line;\n");
-    load(QStringLiteral("zn64g110"), line.repeated(500));
+    load("zn64g110"_s, line.repeated(500));
     QScrollBar* bar = editor(0)->verticalScrollBar();
     QTRY_VERIFY(bar->maximum() > 100);
     bar->setValue(77);
-    load(QStringLiteral("zn64g110"), "int other;\n" + line.repeated(500));
-    QVERIFY(text(0).startsWith(QStringLiteral("int other;")));
+    load("zn64g110"_s, "int other;\n" + line.repeated(500));
+    QVERIFY(text(0).startsWith("int other;"_s));
     QCOMPARE(bar->value(), 77);
     QCOMPARE(editor(0)->firstVisibleLine(), 77);
 }
@@ -131,15 +128,15 @@ void TestCodeView::clickedTabIsHighlightedAndStaysSoAfterAReload()
     QCOMPARE(m_view->findChild<QTabWidget*>()->currentWidget(), editor(2));
     for (int round = 0; round < 2; ++round) {
         for (int tab = 0; tab < 4; ++tab)
-            QCOMPARE(label(tab)->styleSheet().contains(QLatin1String("rgb(123, 199, 233)")), tab == 2);
+            QCOMPARE(label(tab)->styleSheet().contains("rgb(123, 199, 233)"_s), tab == 2);
         m_view->TabWidgetTabBarClicked(-1);
-        load(QStringLiteral("zn64g110"));
+        load("zn64g110"_s);
     }
 }
 
 void TestCodeView::foldAllFoldsOnceUntilExpandAll()
 {
-    load(QStringLiteral("zn64g110"));
+    load("zn64g110"_s);
     editor(0)->recolor();
     const auto visible = [this] { return editor(0)->SendScintilla(QsciScintilla::SCI_GETLINEVISIBLE, 2); };
     QCOMPARE(visible(), 1L);

@@ -2,13 +2,13 @@
 
 #include "shell/ZN64PLLConfig.h"
 #include "shell/formconfiguration.h"
+#include "testdata.h"
 #include "widgets/dialoganswers.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
 
 /// The main form as the program starts it, its commands, and what it shows.
@@ -51,31 +51,31 @@ struct FormFixture
     QString state() const
     {
         if (!form.isVisible())
-            return QStringLiteral("closed");
+            return "closed"_s;
         const bool code = find<QWidget>("m_codeViewForm")->isVisible();
         // Exactly one page is in view, and the colours of the buttons tell which.
         if (code == find<QWidget>("m_clockConfigForm")->isVisible() || isLit(codeButton()) != code ||
             isLit(clockButton()) == code)
-            return QStringLiteral("page and buttons disagree");
-        const QString page = code ? QStringLiteral("code") : QStringLiteral("clock");
+            return "page and buttons disagree"_s;
+        const QString page = code ? "code"_s : "clock"_s;
         if (!design())
             return page;
-        return page + QLatin1Char(' ') + QLatin1String(design()->metaObject()->className()).chopped(3);
+        return page + u' ' + QLatin1String(design()->metaObject()->className()).chopped(3);
     }
 
     /// Leads the form to a state that state() tells.
     void enter(const QString& wanted)
     {
-        const QString series = wanted.section(QLatin1Char(' '), 1);
+        const QString series = wanted.section(u' ', 1);
         if (!series.isEmpty()) {
             DialogAnswers answers;
             if (design())
                 answers.add(DialogAnswers::press("Yes"));
             answers.add(DialogAnswers::choose(designFile(series)));
-            run(QStringLiteral("m_Open_Action"));
+            run("m_Open_Action"_s);
         }
-        if (wanted.startsWith(QLatin1String("code")))
-            run(QStringLiteral("m_CodeView_PushButton"));
+        if (wanted.startsWith("code"_s))
+            run("m_CodeView_PushButton"_s);
         QCOMPARE(state(), wanted);
     }
 
@@ -83,8 +83,8 @@ struct FormFixture
     static DialogAnswers::Answer pick(const QString& series)
     {
         return [series](QDialog* dialog) {
-            auto* lines = dialog->findChild<QComboBox*>(QStringLiteral("m_ProductLine_ComboBox"));
-            auto* devices = dialog->findChild<QComboBox*>(QStringLiteral("m_MCUSerial_ComboBox"));
+            auto* lines = dialog->findChild<QComboBox*>("m_ProductLine_ComboBox"_s);
+            auto* devices = dialog->findChild<QComboBox*>("m_MCUSerial_ComboBox"_s);
             for (int line = 0; line < lines->count() && devices->currentText() != series; ++line) {
                 lines->setCurrentIndex(line);
                 devices->setCurrentText(series);
@@ -96,7 +96,7 @@ struct FormFixture
     /// A design that can be generated without questions. What the file lacks takes its default.
     QString designFile(const QString& series) const
     {
-        const QString path = folder.filePath(series + QStringLiteral(".ZNCK"));
+        const QString path = folder.filePath(series + ".ZNCK"_s);
         QFile file(path);
         if (file.open(QIODevice::WriteOnly))
             file.write("<Configuration><MCU>" + series.toUtf8() +
@@ -113,6 +113,6 @@ struct FormFixture
 private:
     static bool isLit(const QPushButton* button)
     {
-        return button->styleSheet().contains(QLatin1String("rgb(57, 169, 220)"));
+        return button->styleSheet().contains("rgb(57, 169, 220)"_s);
     }
 };

@@ -1,18 +1,10 @@
 #include "formfixture.h"
+#include "testdata.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QMenu>
 #include <QUrl>
-
-namespace {
-
-QString zh(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 /// The language of the interface, switched while the program runs.
 class TestLanguage : public QObject
@@ -23,11 +15,78 @@ public slots:
     void keepUrl(const QUrl& url) { m_opened = url; }
 
 private slots:
-    void switchTranslatesEveryState_data();
-    void switchTranslatesEveryState();
-    void activeLanguageKeepsItsMark();
-    void withoutATranslatorBothEntriesStayChecked();
-    void manualFollowsTheLanguageOrIsMissed();
+    void switchTranslatesEveryState_data()
+    {
+        QTest::addColumn<QString>("state");
+        for (const char* state : {"clock", "clock ZN64G150", "code ZN64G150"})
+            QTest::newRow(state) << QString::fromLatin1(state);
+    }
+
+    void switchTranslatesEveryState()
+    {
+        QFETCH(QString, state);
+        FormFixture program;
+        program.enter(state);
+        const QPointer<QWidget> page = program.design();
+        const QString suffix = page ? "---ZN64G150"_s : QString();
+        const auto* list = program.find<QPushButton>("m_toapb1peripheral_List_Button");
+        const QString pageText = list ? list->text() : QString();
+
+        switchTo(program, "m_Chinese_Action");
+        QCOMPARE(marked(program), "Chinese"_s);
+        QCOMPARE(program.clockButton()->text(), "时钟配置"_s + suffix);
+        QCOMPARE(program.codeButton()->text(), "代码预览"_s);
+        QCOMPARE(program.find<QMenu>("m_FileMenu")->title(), "项目"_s);
+        // The form and the tool bar of the clock page have an entry of this name each.
+        for (const QAction* each : program.form.findChildren<QAction*>("m_ZoomIn_Action"_s))
+            QCOMPARE(each->text(), "放大"_s);
+        QCOMPARE(program.state(), state);
+        QCOMPARE(program.design(), page.data());
+        // A page keeps the texts that it was built with.
+        QCOMPARE(list ? list->text() : QString(), pageText);
+
+        switchTo(program, "m_English_Action");
+        QCOMPARE(marked(program), "English"_s);
+        QCOMPARE(program.clockButton()->text(), "Clock Configuration"_s + suffix);
+    }
+
+    void activeLanguageKeepsItsMark()
+    {
+        FormFixture program(UI_ZH);
+        switchTo(program, "m_Chinese_Action");
+        QCOMPARE(marked(program), "Chinese"_s);
+        QCOMPARE(program.clockButton()->text(), "时钟配置"_s);
+    }
+
+    void withoutATranslatorBothEntriesStayChecked()
+    {
+        FormFixture program;
+        QVERIFY(QCoreApplication::removeTranslator(&program.translator));
+        switchTo(program, "m_Chinese_Action");
+        QCOMPARE(marked(program), "English, Chinese"_s);
+        QCOMPARE(program.clockButton()->text(), "Clock Configuration"_s);
+    }
+
+    void manualFollowsTheLanguageOrIsMissed()
+    {
+        FormFixture program(UI_ZH);
+        const QDir folder(QCoreApplication::applicationDirPath() + "/../Documents"_s);
+        const auto open = [&] {
+            program.run("m_OpenManual_Action"_s);
+            return folder.relativeFilePath(m_opened.toLocalFile());
+        };
+        QDesktopServices::setUrlHandler("file"_s, this, "keepUrl");
+        QCOMPARE(open(), "UM_ZN64_Clockwright.pdf"_s);
+        switchTo(program, "m_English_Action");
+        QCOMPARE(open(), "UM_ZN64_Clockwright_EN.pdf"_s);
+
+        // A handler without that slot stands for a desktop that opens nothing.
+        QDesktopServices::setUrlHandler("file"_s, this, "noSuchSlot");
+        DialogAnswers answers({"Ok"_s});
+        open();
+        QDesktopServices::unsetUrlHandler("file"_s);
+        QCOMPARE(answers.shown(), QStringList{"critical | Error | Can't open user manual! | Ok"_s});
+    }
 
 private:
     QUrl m_opened;
@@ -42,85 +101,11 @@ private:
     {
         QStringList names;
         for (const char* each : {"English", "Chinese"})
-            if (program.form.findChild<QAction*>(QStringLiteral("m_%1_Action").arg(QLatin1String(each)))
-                    ->isChecked())
+            if (program.form.findChild<QAction*>("m_%1_Action"_s.arg(QLatin1String(each)))->isChecked())
                 names += QLatin1String(each);
-        return names.join(QStringLiteral(", "));
+        return names.join(", "_s);
     }
 };
-
-void TestLanguage::switchTranslatesEveryState_data()
-{
-    QTest::addColumn<QString>("state");
-    for (const char* state : {"clock", "clock ZN64G150", "code ZN64G150"})
-        QTest::newRow(state) << QString::fromLatin1(state);
-}
-
-void TestLanguage::switchTranslatesEveryState()
-{
-    QFETCH(QString, state);
-    FormFixture program;
-    program.enter(state);
-    const QPointer<QWidget> page = program.design();
-    const QString suffix = page ? QStringLiteral("---ZN64G150") : QString();
-    const auto* list = program.find<QPushButton>("m_toapb1peripheral_List_Button");
-    const QString pageText = list ? list->text() : QString();
-
-    switchTo(program, "m_Chinese_Action");
-    QCOMPARE(marked(program), QStringLiteral("Chinese"));
-    QCOMPARE(program.clockButton()->text(), zh("时钟配置") + suffix);
-    QCOMPARE(program.codeButton()->text(), zh("代码预览"));
-    QCOMPARE(program.find<QMenu>("m_FileMenu")->title(), zh("项目"));
-    // The form and the tool bar of the clock page have an entry of this name each.
-    for (const QAction* each : program.form.findChildren<QAction*>(QStringLiteral("m_ZoomIn_Action")))
-        QCOMPARE(each->text(), zh("放大"));
-    QCOMPARE(program.state(), state);
-    QCOMPARE(program.design(), page.data());
-    // A page keeps the texts that it was built with.
-    QCOMPARE(list ? list->text() : QString(), pageText);
-
-    switchTo(program, "m_English_Action");
-    QCOMPARE(marked(program), QStringLiteral("English"));
-    QCOMPARE(program.clockButton()->text(), QStringLiteral("Clock Configuration") + suffix);
-}
-
-void TestLanguage::activeLanguageKeepsItsMark()
-{
-    FormFixture program(UI_ZH);
-    switchTo(program, "m_Chinese_Action");
-    QCOMPARE(marked(program), QStringLiteral("Chinese"));
-    QCOMPARE(program.clockButton()->text(), zh("时钟配置"));
-}
-
-void TestLanguage::withoutATranslatorBothEntriesStayChecked()
-{
-    FormFixture program;
-    QVERIFY(QCoreApplication::removeTranslator(&program.translator));
-    switchTo(program, "m_Chinese_Action");
-    QCOMPARE(marked(program), QStringLiteral("English, Chinese"));
-    QCOMPARE(program.clockButton()->text(), QStringLiteral("Clock Configuration"));
-}
-
-void TestLanguage::manualFollowsTheLanguageOrIsMissed()
-{
-    FormFixture program(UI_ZH);
-    const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/../Documents"));
-    const auto open = [&] {
-        program.run(QStringLiteral("m_OpenManual_Action"));
-        return folder.relativeFilePath(m_opened.toLocalFile());
-    };
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "keepUrl");
-    QCOMPARE(open(), QStringLiteral("UM_ZN64_Clockwright.pdf"));
-    switchTo(program, "m_English_Action");
-    QCOMPARE(open(), QStringLiteral("UM_ZN64_Clockwright_EN.pdf"));
-
-    // A handler without that slot stands for a desktop that opens nothing.
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "noSuchSlot");
-    DialogAnswers answers{DialogAnswers::press("Ok")};
-    open();
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-    QCOMPARE(answers.shown(), QStringList{QStringLiteral("critical | Error | Can't open user manual! | Ok")});
-}
 
 QTEST_MAIN(TestLanguage)
 #include "tst_language.moc"

@@ -1,3 +1,5 @@
+#include "testdata.h"
+
 #include <QDirIterator>
 #include <QDomDocument>
 #include <QFile>
@@ -5,7 +7,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
 
 namespace {
@@ -20,32 +21,31 @@ Table readTable(const QString& path)
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
         return table;
-    const QDomNodeList contexts = document.elementsByTagName(QStringLiteral("context"));
+    const QDomNodeList contexts = document.elementsByTagName("context"_s);
     for (int i = 0; i < contexts.size(); ++i) {
         const QDomElement context = contexts.at(i).toElement();
-        auto& texts = table[context.firstChildElement(QStringLiteral("name")).text()];
-        for (auto message = context.firstChildElement(QStringLiteral("message")); !message.isNull();
-             message = message.nextSiblingElement(QStringLiteral("message")))
-            texts[message.firstChildElement(QStringLiteral("source")).text()] =
-                message.firstChildElement(QStringLiteral("translation")).text();
+        auto& texts = table[context.firstChildElement("name"_s).text()];
+        for (auto message = context.firstChildElement("message"_s); !message.isNull();
+             message = message.nextSiblingElement("message"_s))
+            texts[message.firstChildElement("source"_s).text()] =
+                message.firstChildElement("translation"_s).text();
     }
     return table;
 }
 
 bool isSeriesPage(const QString& context)
 {
-    static const QRegularExpression page(QStringLiteral("^ZN64[A-Z]+\\d+R?PLL$"));
+    static const QRegularExpression page("^ZN64[A-Z]+\\d+R?PLL$"_s);
     return page.match(context).hasMatch();
 }
 
 /// The string literals in the sources of the pages, with adjacent ones joined.
 QSet<QString> literalsOfThePages()
 {
-    static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\""));
-    static const QRegularExpression seam(QStringLiteral("(?<!\\\\)\"\\s*\""));
+    static const QRegularExpression literal("\"((?:[^\"\\\\\\n]|\\\\.)*)\""_s);
+    static const QRegularExpression seam("(?<!\\\\)\"\\s*\""_s);
     QString code;
-    QDirIterator files(QStringLiteral(SOURCE_FOLDER "/pages"),
-                       {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+    QDirIterator files(QStringLiteral(SOURCE_FOLDER "/pages"), {"*.cpp"_s, "*.h"_s}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
@@ -54,10 +54,7 @@ QSet<QString> literalsOfThePages()
     }
     QSet<QString> literals;
     for (auto match = literal.globalMatch(code.remove(seam)); match.hasNext();)
-        literals += match.next()
-                        .captured(1)
-                        .replace(QLatin1String("\\n"), QLatin1String("\n"))
-                        .replace(QLatin1String("\\\""), QLatin1String("\""));
+        literals += match.next().captured(1).replace("\\n"_s, "\n"_s).replace("\\\""_s, "\""_s);
     return literals;
 }
 
@@ -69,75 +66,70 @@ class TestTranslations : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void contextsHoldWhatTheirClassesAskFor();
-    void pageTextsStandInTheTableAndInTheCode();
-    void compiledTablesGiveTheTranslations();
+    void initTestCase()
+    {
+        m_english = readTable(QStringLiteral(TABLE_FOLDER "/tr_en.ts"));
+        m_chinese = readTable(QStringLiteral(TABLE_FOLDER "/tr_zh.ts"));
+        QVERIFY(!m_english.isEmpty() && !m_chinese.isEmpty());
+    }
+
+    void contextsHoldWhatTheirClassesAskFor()
+    {
+        const QTemporaryDir folder;
+        const QString found = folder.filePath("found.ts"_s);
+        QCOMPARE(QProcess::execute(QStringLiteral(LUPDATE), {"-silent"_s, "-recursive"_s,
+                                                             QStringLiteral(SOURCE_FOLDER), "-ts"_s, found}),
+                 0);
+        const Table asked = readTable(found);
+        QVERIFY(asked.size() >= 9);
+        QStringList contexts = asked.keys() + m_chinese.keys();
+        contexts.removeDuplicates();
+        for (const QString& context : qAsConst(contexts))
+            if (!isSeriesPage(context))
+                QCOMPARE(m_chinese[context].keys(), asked[context].keys());
+    }
+
+    void pageTextsStandInTheTableAndInTheCode()
+    {
+        const QSet<QString> literals = literalsOfThePages();
+        QSet<QString> texts;
+        for (auto context = m_chinese.begin(); context != m_chinese.end(); ++context)
+            if (isSeriesPage(context.key()))
+                texts += QSet<QString>(context->keyBegin(), context->keyEnd());
+        for (const QString& text : qAsConst(texts))
+            QVERIFY2(literals.contains(text), qPrintable("not in the code: "_s + text));
+
+        // Only sentences for the user end like this.
+        static const QRegularExpression sentence("\\w(!|\\?| than|<= \\d+MHz)$"_s);
+        static const QRegularExpression noPageYet("(1000MHz|less than|apb3.*)$"_s);
+        for (const QString& literal : literals)
+            if (sentence.match(literal).hasMatch() && !noPageYet.match(literal).hasMatch())
+                QVERIFY2(texts.contains(literal), qPrintable("not in the table: "_s + literal));
+    }
+
+    void compiledTablesGiveTheTranslations()
+    {
+        for (const char* language : {"en", "zh"}) {
+            QTranslator translator;
+            QVERIFY(translator.load(":/image/tr_%1.qm"_s.arg(QLatin1String(language))));
+            const Table& table = *language == 'z' ? m_chinese : m_english;
+            for (auto context = table.begin(); context != table.end(); ++context) {
+                for (auto text = context->begin(); text != context->end(); ++text) {
+                    const QString given = translator.translate(context.key().toUtf8().constData(),
+                                                               text.key().toUtf8().constData());
+                    QCOMPARE(given, text.value());
+                    // A null text lets the source show.
+                    QCOMPARE(given.isNull(), text->isEmpty());
+                }
+            }
+        }
+    }
 
 private:
     Table m_english;
     Table m_chinese;
 };
 
-void TestTranslations::initTestCase()
-{
-    m_english = readTable(QStringLiteral(TABLE_FOLDER "/tr_en.ts"));
-    m_chinese = readTable(QStringLiteral(TABLE_FOLDER "/tr_zh.ts"));
-    QVERIFY(!m_english.isEmpty() && !m_chinese.isEmpty());
-}
-
-void TestTranslations::contextsHoldWhatTheirClassesAskFor()
-{
-    const QTemporaryDir folder;
-    const QString found = folder.filePath(QStringLiteral("found.ts"));
-    QCOMPARE(QProcess::execute(QStringLiteral(LUPDATE),
-                               {QStringLiteral("-silent"), QStringLiteral("-recursive"),
-                                QStringLiteral(SOURCE_FOLDER), QStringLiteral("-ts"), found}),
-             0);
-    const Table asked = readTable(found);
-    QVERIFY(asked.size() >= 9);
-    QStringList contexts = asked.keys() + m_chinese.keys();
-    contexts.removeDuplicates();
-    for (const QString& context : qAsConst(contexts))
-        if (!isSeriesPage(context))
-            QCOMPARE(m_chinese[context].keys(), asked[context].keys());
-}
-
-void TestTranslations::pageTextsStandInTheTableAndInTheCode()
-{
-    const QSet<QString> literals = literalsOfThePages();
-    QSet<QString> texts;
-    for (auto context = m_chinese.begin(); context != m_chinese.end(); ++context)
-        if (isSeriesPage(context.key()))
-            texts += QSet<QString>(context->keyBegin(), context->keyEnd());
-    for (const QString& text : qAsConst(texts))
-        QVERIFY2(literals.contains(text), qPrintable(QStringLiteral("not in the code: ") + text));
-
-    // Only sentences for the user end like this.
-    static const QRegularExpression sentence(QStringLiteral("\\w(!|\\?| than|<= \\d+MHz)$"));
-    static const QRegularExpression noPageYet(QStringLiteral("(1000MHz|less than|apb3.*)$"));
-    for (const QString& literal : literals)
-        if (sentence.match(literal).hasMatch() && !noPageYet.match(literal).hasMatch())
-            QVERIFY2(texts.contains(literal), qPrintable(QStringLiteral("not in the table: ") + literal));
-}
-
-void TestTranslations::compiledTablesGiveTheTranslations()
-{
-    for (const char* language : {"en", "zh"}) {
-        QTranslator translator;
-        QVERIFY(translator.load(QStringLiteral(":/image/tr_%1.qm").arg(QLatin1String(language))));
-        const Table& table = *language == 'z' ? m_chinese : m_english;
-        for (auto context = table.begin(); context != table.end(); ++context) {
-            for (auto text = context->begin(); text != context->end(); ++text) {
-                const QString given =
-                    translator.translate(context.key().toUtf8().constData(), text.key().toUtf8().constData());
-                QCOMPARE(given, text.value());
-                // A null text lets the source show.
-                QCOMPARE(given.isNull(), text->isEmpty());
-            }
-        }
-    }
-}
-
 QTEST_GUILESS_MAIN(TestTranslations)
+#include "testdata.h"
 #include "tst_translations.moc"

@@ -2,18 +2,17 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
-#include <QStringList>
+#include <QProgressDialog>
 #include <QTimer>
 
 #include <functional>
 
 /// Answers the modal dialogs that open during its life, one after the other in the order given, and keeps
 /// what each of them showed. A dialog without an answer is kept too and closed, so that a test fails and does
-/// not hang.
+/// not hang. Progress dialogs are left alone: they come and go with what they tell of.
 class DialogAnswers : public QObject
 {
 public:
@@ -24,28 +23,35 @@ public:
         m_timer.callOnTimeout(this, [this] { look(); });
         m_timer.start(2);
     }
+    /// Presses a button of each dialog in turn.
+    explicit DialogAnswers(const QStringList& buttons) : DialogAnswers()
+    {
+        for (const QString& each : buttons)
+            add(press(each));
+    }
 
     void add(const Answer& answer) { m_answers.append(answer); }
 
     /// One line per dialog: "icon | title | text | buttons" of a message box, the title of any other.
     const QStringList& shown() const { return m_shown; }
 
-    /// Presses the message box button of this text.
-    static Answer press(const char* text)
+    /// Called now and then while a progress dialog is in front.
+    std::function<void(QProgressDialog*)> onProgress = [](QProgressDialog*) {};
+
+    /// Presses the button of this text; closes the dialog if the text is empty.
+    static Answer press(const QString& text)
     {
-        const QString wanted = QString::fromUtf8(text);
-        return [wanted](QDialog* dialog) {
+        return [text](QDialog* dialog) {
             const auto buttons = dialog->findChildren<QAbstractButton*>();
             for (QAbstractButton* each : buttons)
-                if (each->text() == wanted)
+                if (!text.isEmpty() && each->text() == text)
                     return each->click();
+            if (text.isEmpty())
+                dialog->close();
         };
     }
-
-    static Answer close()
-    {
-        return [](QDialog* dialog) { dialog->close(); };
-    }
+    static Answer press(const char* text) { return press(QString::fromUtf8(text)); }
+    static Answer close() { return press(QString()); }
 
     /// Types the path into a file dialog and confirms it.
     static Answer choose(const QString& path)
@@ -78,10 +84,16 @@ private:
         QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog)
             return;
+        if (auto* progress = qobject_cast<QProgressDialog*>(dialog))
+            return onProgress(progress);
         if (m_seen.contains(dialog)) {
-            // An answered dialog closes at once; one that does not would block the test for good.
-            if (++m_patience > 1000)
+            // An answered dialog closes at once. One that does not lacks the button: a test must not hang on
+            // it, and must not pass either.
+            if (++m_patience > 1000) {
+                m_patience = 0;
+                m_shown.append(QStringLiteral("not answered"));
                 dialog->reject();
+            }
             return;
         }
         m_patience = 0;
