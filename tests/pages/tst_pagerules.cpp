@@ -1,0 +1,160 @@
+#include "pagefixture.h"
+#include "testdata.h"
+
+#include <QLayout>
+#include <QTranslator>
+
+// What a table of a series can break without any edit going wrong: over all pages.
+
+class TestPageRules : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesAreTakenAndInThePicture_data() { pageRows(); }
+    void placesAreTakenAndInThePicture();
+    void ordersNameEverySetting_data() { pageRows(); }
+    void ordersNameEverySetting();
+    void listsHaveNoDoubles_data() { pageRows(); }
+    void listsHaveNoDoubles();
+    void limitsSayWhatTheyCompare_data() { pageRows(); }
+    void limitsSayWhatTheyCompare();
+    void everyTextIsTranslated_data() { pageRows(); }
+    void everyTextIsTranslated();
+};
+
+namespace {
+
+bool hasDoubles(const QStringList& list)
+{
+    return QSet<QString>(list.begin(), list.end()).size() != list.size();
+}
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+/// All limits that the page refuses or asks about.
+Limits toldLimits(const PageDescription& page)
+{
+    return page.onSaving + page.onGenerating;
+}
+
+} // namespace
+
+void TestPageRules::placesAreTakenAndInThePicture()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    QCOMPARE(page.page->unusedPlaces(), QStringList());
+    const QRectF picture(QPointF(), page.page->description().pictureSize);
+    int seen = 0;
+    for (const QGraphicsItem* item : page.page->view()->scene()->items()) {
+        const auto* proxy = qgraphicsitem_cast<const QGraphicsProxyWidget*>(item);
+        // The long lists may reach out: where they open is given.
+        if (!proxy || proxy->widget()->objectName().endsWith("_list_group"_s))
+            continue;
+        const QRectF rect(proxy->pos(), QSizeF(proxy->widget()->sizeHint().expandedTo({1, 1})));
+        const auto* control = proxy->widget()->layout()->itemAt(0)->widget();
+        QVERIFY2(picture.contains(rect), qPrintable(control->objectName() + proxy->widget()->objectName()));
+        ++seen;
+    }
+    QVERIFY(seen > 100);
+}
+
+void TestPageRules::ordersNameEverySetting()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    const PageDescription& description = page.page->description();
+    QStringList settings = sorted(page.page->settingNames());
+    QStringList started;
+    for (const StartValue& start : description.startValues())
+        started += start.setting;
+    QCOMPARE(sorted(started), settings);
+    // The timers' multipliers follow from the dividers and stand in no file.
+    QVERIFY(settings.removeOne("tmrmultiply"_s));
+    QCOMPARE(sorted(description.settingsInFile()), settings);
+    QCOMPARE(sorted(description.settingsInReadingOrder()), settings);
+}
+
+void TestPageRules::listsHaveNoDoubles()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    for (const auto* combo : page.page->findChildren<CustomComboBox1*>()) {
+        QStringList items;
+        for (int i = 0; i < combo->count(); ++i)
+            items += combo->itemText(i);
+        QVERIFY2(!items.isEmpty() && !hasDoubles(items), qPrintable(combo->objectName()));
+    }
+    for (const ListNames& names : listNames()) {
+        const PeripheralList& list = page.page->description().lists.*names.list;
+        QVERIFY2(!hasDoubles(QString::fromLatin1(list.peripherals).split(u' ')), names.group);
+    }
+}
+
+void TestPageRules::limitsSayWhatTheyCompare()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    const PageDescription& description = page.page->description();
+    const double top = page.model().GetSYSCLKValidMaxValue();
+    QCOMPARE(description.typedSclk.highest, top);
+    QVERIFY(limits::breaksAny(description.painted, ClockSource::Sclk, top + 0.001, true));
+    QVERIFY(!limits::breaksAny(description.painted, ClockSource::Sclk, top, true));
+    QVERIFY(!description.onSaving.empty() && !description.onGenerating.empty());
+    for (const Limit& limit : toldLimits(description)) {
+        const QString number = QString::number(limit.compared);
+        if (limit.question)
+            QVERIFY2(QString::fromLatin1(limit.question).contains(QRegularExpression(number + " ?MHz"_s)),
+                     limit.question);
+        else
+            QVERIFY2(limit.shown > 0 && limit.shown <= limit.compared, qPrintable(number));
+    }
+}
+
+void TestPageRules::everyTextIsTranslated()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    QStringList texts{"Error"_s,
+                      "Ok"_s,
+                      "Warning"_s,
+                      "Yes"_s,
+                      "Cancel"_s,
+                      "Save"_s,
+                      "Information"_s,
+                      "OK"_s,
+                      " Open Folder  "_s,
+                      "Config file (*.ZNCK)"_s,
+                      "hext input error!"_s,
+                      "sclk input error!"_s,
+                      "Select directory"_s,
+                      "Generate code failed!"_s,
+                      "Save file failed!"_s,
+                      "Save file succeed!"_s,
+                      "Creating \"inc\" folder error!"_s,
+                      "Creating \"src\" folder error!"_s,
+                      "Generate code finished!  Files:"_s};
+    const PageDescription& description = page.page->description();
+    for (const Limit& limit : toldLimits(description))
+        texts += QString::fromLatin1(limit.question ? limit.question : limits::refusal(limit));
+    if (description.checksPllInput)
+        texts += "pll input clock source range 2-16MHz!"_s;
+    if (description.generatedApb3)
+        texts += "apb3div input error!"_s;
+    if (description.pllParameters)
+        texts += QStringList{"pll_ms input error!"_s, "pll_ns input error!"_s};
+    QTranslator chinese;
+    QVERIFY(chinese.load(":/image/tr_zh.qm"_s));
+    for (const QString& text : qAsConst(texts))
+        QVERIFY2(
+            !chinese.translate(page.page->metaObject()->className(), text.toUtf8().constData()).isEmpty(),
+            qPrintable(text));
+}
+
+QTEST_MAIN(TestPageRules)
+#include "tst_pagerules.moc"
