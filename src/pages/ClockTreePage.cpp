@@ -106,6 +106,12 @@ void ClockTreePage::updatePllControls()
         normal ? block->Update_Normal_Controls() : block->Update_Flexible_Controls();
 }
 
+void ClockTreePage::showPllMode()
+{
+    for (const auto& block : m_blocks)
+        block->ShowPllMode(!normalMode());
+}
+
 void ClockTreePage::UpdateRTCParam()
 {
     m_lowSpeed->UpdateRTCParam();

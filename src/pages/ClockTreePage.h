@@ -20,6 +20,7 @@ class PllOutputBlock;
 class PllSourceBlock;
 class SystemClockBlock;
 class UsbBlock;
+class UsbPhyBlock;
 
 /// A series page: blocks put together by a description. The class of a series calls build() in its
 /// constructor, when texts already translate in its own context.
@@ -86,6 +87,7 @@ private:
     void UpdateResultControls() override;
     void UpdateParam_From_ResultCLK() override;
     void updatePllControls() override;
+    void showPllMode() override;
     void UpdateRTCParam() override;
     void searchUsb() override;
     void serveUsb() override;
@@ -94,6 +96,7 @@ private:
     bool readHextForPll() override;
     bool readHext() override;
     void keepTypedSysclk() override;
+    double typedHext() const override;
     bool Hext_Value_Valid(double& value) override;
     bool Result_SYSCLK_Valid(double& value) override;
     void tellHextInUse(bool inUse) override { Set_Hext_Enable_Falg(inUse); }
@@ -128,7 +131,11 @@ private:
     /// Whether anything but the RTC needs hext, so that its typed value must be good.
     bool hextNeeded() const;
 
+    /// Whether the PLL's divider for USB is of use.
+    bool usbDividerInUse() const;
+
     bool isOn(ClockSource clock) const;
+    double limitedValue(ClockSource clock) const;
     bool passes(const Limit& limit) const;
     bool passesAll(const Limits& limits) const;
     void showErrorBox(const QString& translatedText) const;
@@ -150,6 +157,7 @@ private:
     SystemClockBlock* m_systemClock = nullptr;
     HickRouteBlock* m_hickRoute = nullptr;
     UsbBlock* m_usb = nullptr;
+    UsbPhyBlock* m_usbPhy = nullptr;
     AdcBlock* m_adc = nullptr;
     OutputsBlock* m_outputs = nullptr;
 };

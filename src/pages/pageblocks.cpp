@@ -9,11 +9,14 @@
 #include "pages/blocks/HighSpeedBlock.h"
 #include "pages/blocks/LowSpeedBlock.h"
 #include "pages/blocks/OutputsBlock.h"
+#include "pages/blocks/PeripheralClockBlock.h"
+#include "pages/blocks/PllModeBlock.h"
 #include "pages/blocks/PllMultiplierBlock.h"
 #include "pages/blocks/PllOutputBlock.h"
 #include "pages/blocks/PllSourceBlock.h"
 #include "pages/blocks/SystemClockBlock.h"
 #include "pages/blocks/UsbBlock.h"
+#include "pages/blocks/UsbPhyBlock.h"
 
 // Which blocks a description asks for, and the order in which their controls are made.
 
@@ -22,12 +25,15 @@ namespace {
 /// Every routine that makes controls. Controls of one stacking level lie in this order, the last on top.
 const char routinesInOrder[] =
     "New_lick New_towdt New_tortc New_lext New_lextbypass New_rtcsel New_rtcdiv New_hext New_hextbypass "
-    "New_hextdiv New_hickdiv New_pllhextdiv New_pllrcs New_pll_mult New_pll_ms New_pll_ns New_pll_fr "
+    "New_hextdiv New_hickdiv New_pllhextdiv New_pllrcs New_pll_mode New_pll_mult New_pll_ms New_pll_ns "
+    "New_pll_fr "
     "New_pll_fp New_pllclk New_pll_CFG New_sclkselect New_ahbdiv New_apb1div New_apb2div New_apb3div "
     "New_pll_fu New_usbdiv New_tousb New_hicktousb New_hicktosclk New_hick New_clockoutdiv New_clockoutdiv1 "
     "New_clockoutdiv2 New_clockoutpinselect New_clockout New_clockout1div1 New_clockout1div2 "
     "New_clockout1pinselect New_clockout1 New_clockout2div1 New_clockout2div2 New_clockout2pinselect "
-    "New_clockout2 New_Result New_toperipheral New_totmrmultiply New_totadc New_toadcdiv";
+    "New_clockout2 New_adcclocksel New_usart1clocksel New_usart2clocksel New_usart3clocksel "
+    "New_i2c1clocksel New_canclocksel New_can1clocksel New_can2clocksel New_can3clocksel New_i2sf5clocksel "
+    "New_Result New_toperipheral New_tousbhsphy New_totmrmultiply New_totmrdivide New_totadc New_toadcdiv";
 
 } // namespace
 
@@ -57,8 +63,9 @@ std::function<bool()> ClockTreePage::useOf(const Divider& divider) const
     case DividerUse::SclkFromHick:
         return [this] { return sclkFromHick(); };
     case DividerUse::UsbFromPll:
-    case DividerUse::UsbOrCanFromPll:
         return [this] { return usbFromPll(); };
+    case DividerUse::UsbOrCanFromPll:
+        return [this] { return usbDividerInUse(); };
     case DividerUse::AdcOn:
         return [this] { return adcOn(); };
     }
@@ -72,6 +79,8 @@ void ClockTreePage::createBlocks()
     m_pllSource = addBlock<PllSourceBlock>();
     if (m_description.pllMultiplier)
         addBlock<PllMultiplierBlock>();
+    if (m_description.pllMultiplier && m_description.pllParameters)
+        addBlock<PllModeBlock>();
     m_pllOutput = addBlock<PllOutputBlock>();
     if (m_description.pllParameters)
         m_flexiblePll = addBlock<FlexiblePllBlock>();
@@ -88,6 +97,10 @@ void ClockTreePage::createBlocks()
         m_usb = addBlock<UsbBlock>();
         addBlock<DividerBlock>(m_description.usb->divider, useOf(m_description.usb->divider));
     }
+    if (m_description.usbPhy)
+        m_usbPhy = addBlock<UsbPhyBlock>();
+    for (const PeripheralClock& clock : m_description.peripherals)
+        addBlock<PeripheralClockBlock>(clock);
     for (const ClockOutput& output : m_description.clockOutputs) {
         const auto* block = addBlock<ClockOutputBlock>(output);
         for (const Divider& divider : output.dividers)

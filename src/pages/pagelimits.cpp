@@ -1,6 +1,7 @@
 #include "pages/ClockTreePage.h"
 
 #include "pages/blocks/PllOutputBlock.h"
+#include "pages/blocks/UsbPhyBlock.h"
 
 #include <algorithm>
 
@@ -20,9 +21,14 @@ bool ClockTreePage::isOn(ClockSource clock) const
     }
 }
 
+double ClockTreePage::limitedValue(ClockSource clock) const
+{
+    return clock == ClockSource::UsbPhy ? m_usbPhy->shown() : clockValue(clock, model());
+}
+
 bool ClockTreePage::passes(const Limit& limit) const
 {
-    if (!isOn(limit.clock) || !limits::breaks(limit, clockValue(limit.clock, model()), normalMode()))
+    if (!isOn(limit.clock) || !limits::breaks(limit, limitedValue(limit.clock), normalMode()))
         return true;
     if (limit.question)
         return askToContinue(QMessageBox::Warning, limit.question);

@@ -82,6 +82,12 @@ bool ClockTreePage::pllInUse() const
            std::any_of(m_blocks.begin(), m_blocks.end(), [](const auto& block) { return block->usesPll(); });
 }
 
+bool ClockTreePage::usbDividerInUse() const
+{
+    return usbFromPll() ||
+           std::any_of(m_blocks.begin(), m_blocks.end(), [](const auto& block) { return block->usesPllU(); });
+}
+
 bool ClockTreePage::hextNeeded() const
 {
     return (hextFeedsPll() && pllInUse()) ||
@@ -108,6 +114,11 @@ double ClockTreePage::hickAtOutputs() const
                   (sclkFromPll() && !hextFeedsPll()));
     }
     return hickMHz;
+}
+
+double ClockTreePage::typedHext() const
+{
+    return m_highSpeed->typed();
 }
 
 bool ClockTreePage::Hext_Value_Valid(double& value)

@@ -14,6 +14,8 @@ QString multiplierText(int multiplier)
 BusesBlock::BusesBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_totmrmultiply", [this] { New_totmrmultiply(); });
+    if (description().timerHalves)
+        addControls("New_totmrdivide", [this] { New_totmrdivide(); });
 }
 
 void BusesBlock::New_totmrmultiply()
@@ -31,6 +33,12 @@ void BusesBlock::New_totmrmultiply()
         model().Set_APB2TMR_MUL(static_cast<int>(multiplier));
     };
     addSetting("tmrmultiply", setting);
+}
+
+void BusesBlock::New_totmrdivide()
+{
+    for (const char* step : {"m_toapb1tmr_div", "m_toapb2tmr_div"})
+        multiplierEdit(QLatin1String(step))->setText(QStringLiteral("/ 2"));
 }
 
 void BusesBlock::UpdateResultControls()

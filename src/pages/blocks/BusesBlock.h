@@ -2,7 +2,7 @@
 
 #include "pages/blocks/ClockBlock.h"
 
-/// The timers' multipliers and the fixed divider of systick.
+/// The timers' multipliers, on some series fixed steps before them, and the fixed divider of systick.
 class BusesBlock : public ClockBlock
 {
     Q_OBJECT
@@ -14,6 +14,7 @@ public:
 
 private:
     void New_totmrmultiply();
+    void New_totmrdivide();
 
     QLineEdit* m_tosystick_div = nullptr;
     QLineEdit* m_toapb1tmr_mul = nullptr;

@@ -1,5 +1,6 @@
 #include "pages/blocks/ClockBlock.h"
 
+#include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
 #include "pages/blocks/styles.h"
 
@@ -77,6 +78,15 @@ void ClockBlock::addControls(const char* routine, std::function<void()> make)
 void ClockBlock::addSetting(const char* name, Setting setting)
 {
     m_tree.addSetting(name, std::move(setting));
+}
+
+void ClockBlock::setHiddenAt(QWidget* control, bool hidden, int down) const
+{
+    control->setHidden(hidden);
+    QGraphicsProxyWidget* proxy = ZN64MCUPLL::proxyOf(control);
+    const Control& place = description().places.at(control->objectName());
+    proxy->setPos(place.x, place.y + (hidden ? down : 0));
+    proxy->setZValue(hidden ? 0 : 1);
 }
 
 void ClockBlock::showRadios(const std::vector<QRadioButton*>& radios, bool on)

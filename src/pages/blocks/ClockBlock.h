@@ -25,6 +25,10 @@ public:
     virtual bool usesPll() const { return false; }
     /// Whether the block takes hext at present, other than through the PLL.
     virtual bool usesHext() const { return false; }
+    /// Whether the block needs the PLL's divider for USB, though USB may be off.
+    virtual bool usesPllU() const { return false; }
+    /// Shows or hides what belongs to one mode of the PLL, on a series that has both.
+    virtual void ShowPllMode(bool) {}
     /// Shows what a search for PLL parameters found, by the PLL's mode.
     virtual void Update_Normal_Controls() {}
     virtual void Update_Flexible_Controls() {}
@@ -55,6 +59,9 @@ protected:
     void addControls(const char* routine, std::function<void()> make);
     void addSetting(const char* name, Setting setting);
 
+    /// Hides a control that is out of use and moves it down behind the others, so that it takes no clicks.
+    /// down: pixels from its place.
+    void setHiddenAt(QWidget* control, bool hidden, int down) const;
     static void showRadios(const std::vector<QRadioButton*>& radios, bool on);
     /// The look of a crystal pin that the oscillator drives, or does not.
     static void showPin(QLabel* pin, bool on);

@@ -57,6 +57,8 @@ public:
     virtual void UpdateParam_From_ResultCLK() = 0;
     /// Shows the PLL parameters that a solver found.
     virtual void updatePllControls() = 0;
+    /// Shows what belongs to the PLL's present mode and hides the rest.
+    virtual void showPllMode() = 0;
     virtual void UpdateRTCParam() = 0;
     /// Solves for 48 MHz at USB and shows the parameters found. Does not repaint the results.
     virtual void searchUsb() = 0;
@@ -72,6 +74,8 @@ public:
     virtual bool readHext() = 0;
     /// Keeps the typed system clock over a change of the PLL's source or divider, if it is good.
     virtual void keepTypedSysclk() = 0;
+    /// The typed hext as it stands, MHz; 0 for a text that is no number.
+    virtual double typedHext() const = 0;
     /// The typed hext, MHz; false after telling that it is bad.
     virtual bool Hext_Value_Valid(double& value) = 0;
     virtual bool Result_SYSCLK_Valid(double& value) = 0;

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+namespace {
+constexpr int droppedBy = 40; // pixels, while the PLL's mode leaves the divider out of use
+}
+
 DividerBlock::DividerBlock(ClockTree& tree, const Divider& divider, std::function<bool()> inUse)
     : ClockBlock(tree), m_divider(divider), m_inUse(std::move(inUse))
 {
@@ -55,6 +59,14 @@ void DividerBlock::Update_Flexible_Controls()
 {
     if (m_divider.follows == DividerFollows::PllSearch)
         show(m_divider.field.get(model()));
+}
+
+void DividerBlock::ShowPllMode(bool flexible)
+{
+    if (m_divider.effect != DividerEffect::HextThenPll)
+        return;
+    m_Label->setHidden(!flexible);
+    setHiddenAt(m_ComboBox, !flexible, droppedBy);
 }
 
 void DividerBlock::ComboBox_currentIndexChanged(int index)

@@ -15,6 +15,7 @@ public:
     void UI_Display() override;
     void UpdateResultControls() override;
     void Update_Flexible_Controls() override;
+    void ShowPllMode(bool flexible) override;
 
 private slots:
     void ComboBox_currentIndexChanged(int index);

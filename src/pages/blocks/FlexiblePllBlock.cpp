@@ -12,6 +12,7 @@ constexpr int editWidth = 60;
 constexpr int editHeight = 25;
 constexpr int registerWidth = 100;
 constexpr int registerHeight = 20;
+constexpr int droppedBy = 50; // pixels, while they are out of use
 } // namespace
 
 int FlexiblePllBlock::Parameter::typed() const
@@ -118,6 +119,26 @@ void FlexiblePllBlock::show(const Parameter& parameter, bool on)
     parameter.name->setEnabled(on);
     parameter.edit->setEnabled(on);
     parameter.range->setEnabled(on);
+}
+
+void FlexiblePllBlock::ShowPllMode(bool flexible)
+{
+    setHidden(m_ms, !flexible);
+    setHidden(m_ns, !flexible);
+    Set_pllCFG_Hidden(!flexible);
+}
+
+void FlexiblePllBlock::setHidden(const Parameter& parameter, bool hidden)
+{
+    parameter.name->setHidden(hidden);
+    setHiddenAt(parameter.edit, hidden, droppedBy);
+    parameter.range->setHidden(hidden);
+}
+
+void FlexiblePllBlock::Set_pllCFG_Hidden(bool hidden)
+{
+    m_pllCFG_Label->setHidden(hidden);
+    m_pllCFG_Value_lineEdit->setHidden(hidden);
 }
 
 void FlexiblePllBlock::UpdateResultControls()

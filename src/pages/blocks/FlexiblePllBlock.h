@@ -16,6 +16,7 @@ public:
 
     /// Shows the parameters that a solver found.
     void Update_Flexible_Controls() override;
+    void ShowPllMode(bool flexible) override;
     /// Checks the typed MS and NS and takes them over. A value in range that breaks a limit of the PLL is
     /// corrected if the user agrees. False if a value stays bad.
     bool takeTypedParameters();
@@ -50,6 +51,8 @@ private:
     void makeParameter(Parameter& parameter, const QString& stem);
     Setting parameterSetting(const Parameter& parameter);
     void show(const Parameter& parameter, bool on);
+    void setHidden(const Parameter& parameter, bool hidden);
+    void Set_pllCFG_Hidden(bool hidden);
     void commit(const Parameter& parameter);
     void paintTyped(const Parameter& parameter);
     bool takeMs(int& ms);

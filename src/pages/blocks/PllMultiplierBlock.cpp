@@ -4,7 +4,8 @@
 
 namespace {
 constexpr int firstMultiplier = divisors::pllMul.front();
-}
+constexpr int droppedBy = 50; // pixels, while it is out of use
+} // namespace
 
 PllMultiplierBlock::PllMultiplierBlock(ClockTree& tree) : ClockBlock(tree)
 {
@@ -49,6 +50,12 @@ void PllMultiplierBlock::UI_Display()
     const bool on = tree().pllInUse();
     m_pllmult_Label->setEnabled(on);
     m_pllmult_ComboBox->setEnabledStatus(on);
+}
+
+void PllMultiplierBlock::Set_pllmult_Hidden(bool hidden)
+{
+    setHiddenAt(m_pllmult_Label, hidden, 0);
+    setHiddenAt(m_pllmult_ComboBox, hidden, droppedBy);
 }
 
 void PllMultiplierBlock::Update_Normal_Controls()

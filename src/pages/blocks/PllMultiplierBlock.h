@@ -15,12 +15,14 @@ public:
 
     /// Shows the multiplier that a solver found.
     void Update_Normal_Controls() override;
+    void ShowPllMode(bool flexible) override { Set_pllmult_Hidden(flexible); }
 
 private slots:
     void pllmult_ComboBox_currentIndexChanged(int);
 
 private:
     void New_pll_mult();
+    void Set_pllmult_Hidden(bool hidden);
     Setting multiplierSetting();
 
     QLabel* m_pllmult_Label = nullptr;

@@ -104,7 +104,8 @@ bool SystemClockBlock::Result_SYSCLK_Valid(double& value)
 void SystemClockBlock::disableEdit()
 {
     m_sclk_lineEdit->setEnabled(false);
-    appearance::setSheet(m_sclk_lineEdit, styles::disabled());
+    appearance::setSheet(m_sclk_lineEdit,
+                         description().sclkSolidFrame ? styles::solidDisabled() : styles::disabled());
 }
 
 void SystemClockBlock::sclkselecthick_RadioButton_checkSlot(bool)
@@ -137,7 +138,8 @@ void SystemClockBlock::sclkselectpll_RadioButton_checkSlot(bool)
     if (pllSelected()) {
         model().Set_SYSCLKSelect(SYSCLK_PLL);
         m_sclk_lineEdit->setEnabled(true);
-        appearance::setSheet(m_sclk_lineEdit, styles::committed());
+        appearance::setSheet(m_sclk_lineEdit,
+                             description().sclkSolidFrame ? styles::solidCommitted() : styles::committed());
         if (!tree().readHextForPll())
             return;
         tree().UpdateCalculateResult();

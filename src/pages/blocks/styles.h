@@ -14,6 +14,8 @@ const QString& committed();
 const QString& pending();
 const QString& disabled();
 const QString& disabledHext();
+const QString& solidCommitted(); ///< by the selector of some series, until the edit is painted again
+const QString& solidDisabled();
 const QString& committedSysclk(); ///< after Return, with its rounder corners
 
 // Edits with a one pixel frame: PLL parameters, multiplier boxes.

@@ -7,6 +7,7 @@ std::optional<ClockReading> frequencyOf(ClockSource source, const ZN64ConfigCLK&
     switch (source) {
     case ClockSource::None:
     case ClockSource::Untold:
+    case ClockSource::UsbPhy:
         return {};
     case ClockSource::Outside:
         return ClockReading{0.0, "MHz", "Actual value"};

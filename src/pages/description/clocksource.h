@@ -26,7 +26,8 @@ enum class ClockSource
     Pll,
     PllDiv2,
     PllDiv4,
-    PllU ///< the VCO divided by FU
+    PllU,  ///< the VCO divided by FU
+    UsbPhy ///< what the typed hext gives to the PHY of USB; the model does not know it
 };
 
 /// What a page shows of a clock: a number with its unit, or words where the number is not known.

@@ -141,6 +141,8 @@ const ControlEntry entries[] = {
     label("m_hicktousb_Label", "hick to usb"),
     radio("m_tousb_pll_RadioButton"),
     radio("m_tousb_hick_RadioButton"),
+    label("m_tousbhsphy_Label", "usbhs phy(MHz)", 9),
+    output("m_tousbhsphy_lineEdit"),
     label("m_toadcdiv_Label", "adcdiv", 9),
     combo("m_toadcdiv_ComboBox", 50, 3),
     combo("m_toadcswitch_ComboBox", 68, 2),

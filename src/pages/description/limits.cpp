@@ -50,6 +50,13 @@ Limit limits::usbClock()
             "to continue?"};
 }
 
+Limit limits::usbPhyClock()
+{
+    return {ClockSource::UsbPhy, Bound::NotExactly, usbPhyClockMHz, 0,
+            "USBHS PHY clock must be 12MHz. But the PHY clock of current config is wrong.  please confirm "
+            "whether to continue?"};
+}
+
 Limit limits::adcClock(double compared, const char* question)
 {
     return {ClockSource::Adc, Bound::Above, compared, 0, question};

@@ -12,6 +12,8 @@ constexpr double usbClockMHz = 48.0;
 constexpr double adcLimitMHz = 28.0;
 /// The lowest output of the PLL in its normal mode where a page limits it, MHz.
 constexpr double lowestNormalPllMHz = 16.0;
+/// The clock of the PHY of USB must be at it exactly, MHz.
+constexpr double usbPhyClockMHz = 12.0;
 /// The highest clock of a third APB bus, MHz.
 constexpr double apb3LimitMHz = 90.0;
 
@@ -56,6 +58,8 @@ Limit belowInNormalMode();
 
 /// Asks about a USB clock that is on and not exactly right.
 Limit usbClock();
+/// Asks about a PHY clock of USB that is not exactly right.
+Limit usbPhyClock();
 /// Asks about an ADC clock that is on and above the limit.
 Limit adcClock(double compared, const char* question);
 

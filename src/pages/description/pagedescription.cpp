@@ -45,6 +45,40 @@ std::vector<StartValue> parseStart(const char* text)
     return values;
 }
 
+// A peripheral's small tree, pixels from its corner: the names of the sources, their buttons, the switch, the
+// result and its unit; one source below the other.
+constexpr int sourceRadioRight = 62;
+constexpr int switchRight = 112;
+constexpr int resultRight = 200;
+constexpr int unitRight = 284;
+constexpr int firstSourceDown = 24;
+constexpr int sourcePitch = 20;
+constexpr int radioBelowName = 2;
+
+void addPeripheral(Places& places, const PeripheralClock& clock)
+{
+    const QString selector = QStringLiteral("m_") + QLatin1String(clock.sourceSetting);
+    const QString stem = QLatin1String(clock.stem);
+    places.add(selector + QLatin1String("_Label"),
+               {ControlType::Label, clock.x, clock.y, QString::fromLatin1(clock.title)});
+    int y = clock.y + firstSourceDown;
+    for (const PeripheralSource& source : clock.sources) {
+        const QString row = selector + QLatin1Char('_') + QLatin1String(source.name);
+        places.add(row + QLatin1String("_QLabel"),
+                   {ControlType::Label, clock.x, y, QString::fromLatin1(source.name)});
+        places.add(row + QLatin1String("_RadioButton"),
+                   {ControlType::Radio, clock.x + sourceRadioRight, y + radioBelowName, QString()});
+        y += sourcePitch;
+    }
+    const int middle = (clock.y + firstSourceDown + y) / 2;
+    places.add(QLatin1String("m_") + stem + QLatin1String("switch_ComboBox"),
+               {ControlType::Combo, clock.x + switchRight, middle - 14, QString(), 70, 1});
+    places.add(QLatin1String("m_to") + stem + QLatin1String("_lineEdit"),
+               {ControlType::Output, clock.x + resultRight, middle - 14, QString(), 0, 0, 9});
+    places.add(QLatin1String("m_to") + stem + QLatin1String("_Label"),
+               {ControlType::Label, clock.x + unitRight, middle - 10, QStringLiteral("(MHz)"), 0, 0, 9});
+}
+
 } // namespace
 
 const std::vector<ListNames>& listNames()
@@ -93,5 +127,7 @@ PageDescription complete(PageDescription page)
     for (const ClockOutput& output : page.clockOutputs)
         for (const ClockOutputRow& row : output.rows)
             addRow(page.places, output, row);
+    for (const PeripheralClock& clock : page.peripherals)
+        addPeripheral(page.places, clock);
     return page;
 }

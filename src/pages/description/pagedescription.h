@@ -135,6 +135,49 @@ struct UsbPart
     bool movesBusyPll = false;
 };
 
+/// One source that a peripheral's clock can be taken from.
+struct PeripheralSource
+{
+    int number; ///< in the model and in design files
+    const char*
+        name; ///< part of the member names, "pclk" in m_usart1clocksel_pclk_RadioButton; also the label
+    ClockSource shown;
+    /// The clock that decides red. On some series it is another than the one shown, which is meant. None is
+    /// never red.
+    ClockSource limited = ClockSource::None;
+};
+
+/// What the reader of design files does with one number of a peripheral's source.
+struct PeripheralNumber
+{
+    int number;
+    int checks;          ///< the number of the source whose button is checked
+    bool strays = false; ///< it is stored in strayField and not in the peripheral's own
+};
+
+/// A peripheral whose clock can be switched and chosen, as a small tree of its own.
+struct PeripheralClock
+{
+    const char* stem;          ///< "usart1" in m_usart1switch_ComboBox, m_tousart1_lineEdit
+    const char* title;         ///< "usart1 clock sel"
+    const char* sourceSetting; ///< "usart1clocksel", also part of the member names
+    const char* switchSetting; ///< "usart1switch"
+    ModelField source;
+    ModelField on;
+    double limit; ///< red above, MHz
+    std::vector<PeripheralSource> sources;
+    int x = 0; ///< of the tree's names, picture pixels
+    int y = 0; ///< of its title
+    /// What the reader takes; empty takes the number of each source.
+    std::vector<PeripheralNumber> readNumbers = {};
+    /// Where the numbers that stray are stored.
+    ModelField strayField = {};
+    /// What any other number in a design file becomes; without it nothing changes.
+    std::optional<int> fallback = {};
+    /// The result is written while this switch is on; without it while the own one is.
+    ModelField writtenWhile = {};
+};
+
 /// A choice of the start state: the setting's name and the value that it takes.
 struct StartValue
 {
@@ -183,15 +226,19 @@ struct PageDescription
     bool pllHextDivider = false; ///< the choice of a divider of hext before the PLL
     /// The PLL's input from hext must lie within 2 to 16 MHz: the page tells and corrects hext.
     bool checksPllInput = false;
-    bool pllMultiplier = false; ///< the PLL's normal mode
-    bool pllParameters = false; ///< its flexible mode: MS, NS and the register value
-    bool hickToSclk = false;    ///< the choice of hick's way to the system clock
-    bool sclkWarnings = false;  ///< warnings below the edit at a high system clock
+    bool pllMultiplier = false;  ///< the PLL's normal mode
+    bool pllParameters = false;  ///< its flexible mode: MS, NS and the register value
+    bool hickToSclk = false;     ///< the choice of hick's way to the system clock
+    bool sclkWarnings = false;   ///< warnings below the edit at a high system clock
+    bool sclkSolidFrame = false; ///< the selector gives the edit of the system clock a solid frame
     std::optional<UsbPart> usb = {};
-    bool adcDivider = false; ///< the switch of an ADC that takes APB2 through a divider
+    bool adcDivider = false;  ///< the switch of an ADC that takes APB2 through a divider
+    bool timerHalves = false; ///< fixed steps of "/ 2" on the timers' ways
+    bool usbPhy = false;      ///< a field that shows what the typed hext gives to the PHY of USB
     /// All but those of USB and the clock outputs.
     std::vector<Divider> dividers = {};
     std::vector<ClockOutput> clockOutputs = {};
+    std::vector<PeripheralClock> peripherals = {};
 
     HickAtOutputs hickAtOutputs = HickAtOutputs::ByRoute;
     /// With the PLL off the system clock, a changed PLL source always asks for a USB solution, and never for

@@ -1,0 +1,124 @@
+#include "pages/blocks/PeripheralClockBlock.h"
+
+#include "canvas/ZN64MCUPLL.h"
+#include "canvas/appearance.h"
+
+#include <algorithm>
+
+PeripheralClockBlock::PeripheralClockBlock(ClockTree& tree, const PeripheralClock& clock)
+    : ClockBlock(tree), m_clock(clock)
+{
+    addControls((QByteArray("New_") + clock.sourceSetting).constData(), [this] { New_clocksel(); });
+}
+
+void PeripheralClockBlock::New_clocksel()
+{
+    const QString selector = QLatin1String("m_") + QLatin1String(m_clock.sourceSetting);
+    const QString stem = QLatin1String(m_clock.stem);
+    m_title = label(selector + QLatin1String("_Label"));
+    QButtonGroup* group = buttonGroup(selector + QLatin1String("_ButtonGroup"));
+    for (const PeripheralSource& source : m_clock.sources) {
+        const QString row = selector + QLatin1Char('_') + QLatin1String(source.name);
+        m_names.push_back(label(row + QLatin1String("_QLabel")));
+        m_radios.push_back(radio(row + QLatin1String("_RadioButton"), group));
+        m_choices.push_back({source.number, m_radios.back()});
+    }
+    m_switch = combo(QLatin1String("m_") + stem + QLatin1String("switch_ComboBox"), switchItems());
+    m_result = outputEdit(QLatin1String("m_to") + stem + QLatin1String("_lineEdit"));
+    m_unit = label(QLatin1String("m_to") + stem + QLatin1String("_Label"));
+    addSetting(m_clock.sourceSetting, sourceSetting());
+    addSetting(m_clock.switchSetting,
+               settings::whole(
+                   model(), m_clock.on,
+                   [this](double on) { m_switch->setCurrentIndex(static_cast<int>(on)); },
+                   settings::switched()));
+}
+
+Setting PeripheralClockBlock::sourceSetting()
+{
+    Setting setting = settings::radios(model(), m_clock.source, m_choices, settings::unchecked());
+    setting.read = [this](const QString& text) { readSource(text.toInt(nullptr, 10)); };
+    return setting;
+}
+
+void PeripheralClockBlock::readSource(int number)
+{
+    const auto has = [number](const auto& each) { return each.number == number; };
+    const auto listed = std::find_if(m_clock.readNumbers.begin(), m_clock.readNumbers.end(), has);
+    PeripheralNumber taken{number, number};
+    if (listed != m_clock.readNumbers.end())
+        taken = *listed;
+    else if (!m_clock.readNumbers.empty() ||
+             std::none_of(m_clock.sources.begin(), m_clock.sources.end(), has)) {
+        if (!m_clock.fallback)
+            return;
+        taken = {*m_clock.fallback, *m_clock.fallback};
+    }
+    // The button's slot stores the button's own number first.
+    checkValue(m_choices, taken.checks);
+    (taken.strays ? m_clock.strayField : m_clock.source).set(model(), taken.number);
+}
+
+void PeripheralClockBlock::ControlsConnectSlots()
+{
+    for (QRadioButton* button : m_radios)
+        connect(button, SIGNAL(toggled(bool)), this, SLOT(clocksel_RadioButton_checkSlot(bool)));
+    connect(m_switch, SIGNAL(currentIndexChanged(int)), this, SLOT(switch_ComboBox_currentIndexChanged(int)));
+}
+
+void PeripheralClockBlock::UI_Display()
+{
+    m_title->setEnabled(on());
+    showRadios(m_radios, on());
+    for (QLabel* name : m_names)
+        name->setEnabled(on());
+    m_result->setEnabled(on());
+    m_unit->setEnabled(on());
+}
+
+bool PeripheralClockBlock::isWritten() const
+{
+    return m_clock.writtenWhile.get ? m_clock.writtenWhile.get(model()) != 0.0 : on();
+}
+
+const PeripheralSource& PeripheralClockBlock::checkedSource() const
+{
+    const auto checked = std::find_if(m_radios.begin(), m_radios.end(),
+                                      [](const QRadioButton* each) { return each->isChecked(); });
+    return checked != m_radios.end() ? m_clock.sources[static_cast<std::size_t>(checked - m_radios.begin())]
+                                     : m_clock.sources.front();
+}
+
+bool PeripheralClockBlock::usesPllU() const
+{
+    return on() && checkedSource().shown == ClockSource::PllU;
+}
+
+void PeripheralClockBlock::UpdateResultControls()
+{
+    if (!isWritten())
+        return;
+    const PeripheralSource& source = checkedSource();
+    const std::optional<ClockReading> clock = frequencyOf(source.shown, model(), tree().hickAtOutputs());
+    const bool red = clockValue(source.limited, model()) > m_clock.limit;
+    ZN64MCUPLL::SetLineEditColor(m_result, red ? Qt::red : Qt::darkGreen);
+    appearance::setText(m_result,
+                        clock->words ? tree().translated(clock->words) : frequencyText(clock->value));
+    appearance::setText(m_unit, QLatin1Char('(') + QLatin1String(clock->unit) + QLatin1Char(')'));
+}
+
+void PeripheralClockBlock::clocksel_RadioButton_checkSlot(bool on)
+{
+    if (!on)
+        return;
+    tree().UI_Display();
+    m_clock.source.set(model(), checkedSource().number);
+    tree().UpdateCalculateResult();
+}
+
+void PeripheralClockBlock::switch_ComboBox_currentIndexChanged(int index)
+{
+    m_clock.on.set(model(), index != 0);
+    tree().UI_Display();
+    clocksel_RadioButton_checkSlot(true);
+}
