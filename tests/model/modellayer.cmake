@@ -1,0 +1,20 @@
+# The model stands on Qt Core alone: it must build and run without a display. Its headers are its own, Qt Core's and
+# the standard library's, all without a folder in their names; no other folder is on its include path.
+# Run with -DSOURCES=folder -DLINKS=libraries.
+if(NOT LINKS STREQUAL "Qt5::Core,Qt5::Core")
+    message(FATAL_ERROR "the model links ${LINKS}")
+endif()
+file(GLOB sources ${SOURCES}/*.h ${SOURCES}/*.cpp)
+set(seen 0)
+foreach(source ${sources})
+    file(STRINGS ${source} includes REGEX "^ *# *include ")
+    foreach(include ${includes})
+        math(EXPR seen "${seen} + 1")
+        if(NOT include MATCHES "include [\"<][A-Za-z0-9_.]+[\">]")
+            message(FATAL_ERROR "${source}: ${include}")
+        endif()
+    endforeach()
+endforeach()
+if(seen LESS 20)
+    message(FATAL_ERROR "only ${seen} includes were found in ${SOURCES}")
+endif()
