@@ -1,7 +1,6 @@
 #include "canvas/ZN64MCUPLL.h"
 #include "testdata.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 class TestPageBase : public QObject
@@ -28,38 +27,23 @@ private slots:
 
     void elementText_data()
     {
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* title, const char* document, const char* expected,
-                            const char* name = "MCU") {
-            QTest::newRow(title) << QByteArray(document) << QString::fromLatin1(name)
-                                 << QString::fromUtf8(expected);
-        };
-        row("first of two", "<r><MCU>a</MCU><MCU>b</MCU></r>", "a");
-        row("not the root", "<MCU>a</MCU>", "");
-        row("not the second level", "<r><s><MCU>a</MCU></s></r>", "");
-        row("second level does not hide", "<r><s><MCU>a</MCU></s><MCU>b</MCU></r>", "b");
-        row("texts below it", "<r><MCU>a<x>b</x><![CDATA[<c>]]></MCU></r>", "ab<c>");
-        row("empty first", "<r><MCU/><MCU>b</MCU></r>", "");
-        row("prefix", "<r xmlns:p='u'><p:MCU>a</p:MCU></r>", "");
-        row("no name", "<r><MCU>a</MCU></r>", "", "");
-        row("not XML", "MCU = ZN64G110", "");
+        // The document, the name, the text.
+        fieldRows({"<r><MCU>a</MCU><MCU>b</MCU></r> | MCU | a", "<MCU>a</MCU> | MCU | ",
+                   "<r><s><MCU>a</MCU></s></r> | MCU | ", "<r><s><MCU>a</MCU></s><MCU>b</MCU></r> | MCU | b",
+                   "<r><MCU>a<x>b</x><![CDATA[<c>]]></MCU></r> | MCU | ab<c>",
+                   "<r><MCU/><MCU>b</MCU></r> | MCU | ", "<r xmlns:p='u'><p:MCU>a</p:MCU></r> | MCU | ",
+                   "<r><MCU>a</MCU></r> | | ", "MCU = ZN64G110 | MCU | "});
     }
 
     void elementText()
     {
-        QFETCH(QByteArray, document);
-        QFETCH(QString, name);
-        QTemporaryDir folder;
+        QFETCH(QStringList, fields);
+        const QTemporaryDir folder;
         const QString path = folder.filePath("a design.ZNCK"_s);
-        QCOMPARE(ZN64MCUPLL::GetXMLElementString(path, name), QString());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(document);
-        file.close();
-        QTEST(ZN64MCUPLL::GetXMLElementString(path, name), "expected");
-        QCOMPARE(ZN64MCUPLL::GetXMLElementString(folder.path(), name), QString());
+        QCOMPARE(ZN64MCUPLL::GetXMLElementString(path, fields[1]), QString());
+        QVERIFY(writeFile(path, fields[0].toUtf8()));
+        QCOMPARE(ZN64MCUPLL::GetXMLElementString(path, fields[1]), fields[2]);
+        QCOMPARE(ZN64MCUPLL::GetXMLElementString(folder.path(), fields[1]), QString());
     }
 };
 

@@ -1,4 +1,5 @@
-#include "model/ZN64ConfigCLK.h"
+#include "designs.h"
+#include "firmware/firmwarebuild.h"
 #include "testdata.h"
 #include "widgets/dialoganswers.h"
 
@@ -7,12 +8,46 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// What the run over the four files does that no page shows: the pages' tests lead the runs themselves.
+/// The files of a run against files written by hand, and what no page shows of a run: the pages' tests lead
+/// the runs themselves.
 class GenerationTest : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void matches_data()
+    {
+        QTest::addColumn<QString>("design");
+        for (const char* name :
+             {"g110_stepped src/clock.c", "g110_stepped src/main.c", "g110_hick src/clock.c",
+              "g110_hick src/main.c", "g150_pll src/clock.c", "g150_pll src/main.c",
+              "g150_hick48 src/clock.c", "g150_hick48 src/main.c", "g110_hick inc/clock.h",
+              "g110_hick inc/conf.h", "g150_pll inc/clock.h", "g150_pll inc/conf.h"})
+            QTest::newRow(name) << QString::fromLatin1(name).section(u' ', 0, 0);
+    }
+
+    void matches()
+    {
+        QFETCH(QString, design);
+        const QString file = QString::fromLatin1(QTest::currentDataTag()).section(u' ', 1);
+        ZN64ConfigCLK clock = namedDesign(design);
+        const QString stem = stemOf(clock);
+        const QTemporaryDir base;
+        QVERIFY(firmware::generate(clock, base.path(), stem));
+        const QString name =
+            file.endsWith("main.c"_s) ? file : QString(file).replace(u'/', u'/' + stem + u'_');
+        const auto made = contentOf(base.filePath(name)).split('\n');
+        const auto wanted =
+            contentOf(QStringLiteral(EXPECTED_DIR "/%1_%2.txt").arg(design, file.section(u'/', 1)))
+                .split('\n');
+        QVERIFY(wanted.size() > 10);
+        for (int i = 0; i < qMin(made.size(), wanted.size()); ++i)
+            QVERIFY2(
+                made[i] == wanted[i],
+                (QByteArray::number(i + 1) + ": '" + made[i] + "', not '" + wanted[i] + '\'').constData());
+        QCOMPARE(made.size(), wanted.size());
+    }
+
     void conflictBoxLooksAsTold()
     {
         QStringList texts;

@@ -180,12 +180,21 @@ void peripheralRows()
     row(NUMBER(CANClockSource_Define_String), counted("CRM_CAN_CLOCK_SOURCE_%1", "HEXT PLL PCLK"),
         "G142 G146 P212 P216");
 }
-/// The words of a PLL range or of flash cycles in the result comment.
-QString commented(const Clock& clock, const char* item)
+/// The first word of an item in the result comment.
+MacroOf commented(const char* item, void (Clock::*set)(double))
 {
-    QString text = "* @brief  system clock config program\n  * @retval none"_s;
-    clock.GenerateCode_result(text);
-    return text.section(QLatin1String(item), 1).section("= "_s, 1).section(u' ', 0, 0);
+    return [=](Clock& clock, double megahertz) {
+        (clock.*set)(megahertz);
+        QString text = "* @brief  system clock config program\n  * @retval none"_s;
+        clock.GenerateCode_result(text);
+        return text.section(QLatin1String(item), 1).section("= "_s, 1).section(u' ', 0, 0);
+    };
+}
+
+QString ldo(Clock& clock, double sysclk)
+{
+    clock.Set_SYSCLKValue(sysclk);
+    return clock.GetOutPutString_PWC_LDO_OUTPUT_Define_String().remove("PWC_LDO_OUTPUT_"_s);
 }
 
 QString flashDivider(Clock& clock, double sysclk)
@@ -252,66 +261,35 @@ private slots:
         QTest::addColumn<QString>("series");
         QTest::addColumn<MacroOf>("told");
         QTest::addColumn<QStringList>("steps");
-        using Rows = std::initializer_list<std::pair<const char*, const char*>>;
-        // What is told up to a limit, the limit, what is told above it, and so on. "<" keeps the limit itself
-        // out.
+        // What is told up to a limit, the limit, what is told above it, and so on; "<" keeps the limit itself
+        // out. Some series have steps of their own.
         const auto kind = [](const char* name, const MacroOf& told, const char* others,
-                             const Rows& rows = {}) {
+                             const char* rows = ":") {
             for (const SeriesTraits& traits : seriesList()) {
-                const char* steps = others;
-                for (const auto& [series, own] : rows)
-                    if (wordsOf(series).contains(QLatin1String(traits.word)))
-                        steps = own;
+                QString steps = QString::fromLatin1(others);
+                for (const QString& row : QString::fromLatin1(rows).split("; "_s))
+                    if (row.section(u':', 0, 0).split(u' ').contains(QLatin1String(traits.word)))
+                        steps = row.section(": "_s, 1);
                 QTest::addRow("%s %s", name, traits.word)
-                    << QString::fromLatin1(traits.word) << told << wordsOf(steps);
+                    << QString::fromLatin1(traits.word) << told << steps.split(u' ');
             }
         };
-        const char* const range = "LE72MHZ 72 GT72MHZ";
-        const char* const cycles = "0 32 1 64 2 96 3 128 4";
         kind("flash", of(&Clock::Set_SYSCLKValue, &Clock::GetOutPutString_OscInitType_FlashPsr),
              "FLASH_WAIT_CYCLE_0 32 FLASH_WAIT_CYCLE_1 64 FLASH_WAIT_CYCLE_2 96 FLASH_WAIT_CYCLE_3 128 "
              "FLASH_WAIT_CYCLE_4 160 FLASH_WAIT_CYCLE_5 192 FLASH_WAIT_CYCLE_6 216 FLASH_WAIT_CYCLE_7");
-        const auto ldo = [](Clock& clock, double sysclk) {
-            clock.Set_SYSCLKValue(sysclk);
-            return clock.GetOutPutString_PWC_LDO_OUTPUT_Define_String().remove("PWC_LDO_OUTPUT_"_s);
-        };
         kind("LDO", ldo, "",
-             {
-                 {"D042",           "1V1 32 1V2"         },
-                 {"G133 H133",      "1V1 64 1V2 120 1V3" },
-                 {"G171 G174 G190", "1V1 108 1V2 192 1V3"},
-                 {"G165 G166 G167", "1V1 108 1V2 160 1V3"},
-                 {"G150 G152",      "1V1 144 1V2 240 1V3"},
-                 {"G142 G146",      "1V2 120 1V3"        },
-                 {"P212 P216",      "1V2 150 1V3 180 1V2"}
-        });
-        kind("flash divider", flashDivider, "none",
-             {
-                 {"G150 G152", "FLASH_CLOCK_DIV_2 208 FLASH_CLOCK_DIV_3"}
-        });
+             "D042: 1V1 32 1V2; G133 H133: 1V1 64 1V2 120 1V3; G171 G174 G190: 1V1 108 1V2 192 1V3; "
+             "G165 G166 G167: 1V1 108 1V2 160 1V3; G150 G152: 1V1 144 1V2 240 1V3; "
+             "G142 G146: 1V2 120 1V3; P212 P216: 1V2 150 1V3 180 1V2");
+        kind("flash divider", flashDivider, "none", "G150 G152: FLASH_CLOCK_DIV_2 208 FLASH_CLOCK_DIV_3");
         kind("auto step mode", autoStep, " 108 onoff");
-        kind("switch", sysclkSwitch, "plainsteps",
-             {
-                 {"G110", "plain <168 steps"}
-        });
+        kind("switch", sysclkSwitch, "plainsteps", "G110: plain <168 steps");
         kind("PLL range", of(&Clock::Set_PLLCLKValue, &Clock::GetOutPutString_OscInitType_PLLOutputRange),
              "CRM_PLL_OUTPUT_RANGE_LE72MHZ 72 CRM_PLL_OUTPUT_RANGE_GT72MHZ");
-        const auto commentedRange = [](Clock& clock, double pll) {
-            clock.Set_PLLCLKValue(pll);
-            return commented(clock, "pll_range");
-        };
-        kind("commented PLL range", commentedRange, range,
-             {
-                 {"G125 TQ125 G130 G135 D042 G142 G146 G133 H133", ""}
-        });
-        const auto commentedCycles = [](Clock& clock, double sysclk) {
-            clock.Set_SYSCLKValue(sysclk);
-            return commented(clock, "flash_wtcyc");
-        };
-        kind("commented flash", commentedCycles, "",
-             {
-                 {"G125 TQ125 G130 G135 D042 G142 G146", cycles}
-        });
+        kind("commented PLL range", commented("pll_range", &Clock::Set_PLLCLKValue), "LE72MHZ 72 GT72MHZ",
+             "G125 TQ125 G130 G135 D042 G142 G146 G133 H133: ");
+        kind("commented flash", commented("flash_wtcyc", &Clock::Set_SYSCLKValue), "",
+             "G125 TQ125 G130 G135 D042 G142 G146: 0 32 1 64 2 96 3 128 4");
     }
 
     void thresholds()
@@ -362,8 +340,6 @@ private slots:
         using Row = std::tuple<const char*, PLLCONFIGMODE, Setup, const char*, const char*>;
         for (const auto& [series, mode, setup, formula, lastLines] :
              {Row("G110", normal, pllHick, "hick / 2 * pll_mult", ranged),
-              Row("G110", normal, pllAt72, "hext * pll_mult",
-                  "pll_mult 24, pll_range LE72MHZ (less than 72 mhz or equal to 72 mhz)"),
               Row("P212", normal, pllHick, "hick / 12 * pll_mult", ranged),
               Row("G120", normal, pllDivided, "hext / 3 * pll_mult", ranged),
               Row("G133", normal, pllHext, "hext * pll_mult", "pll_mult 24"),

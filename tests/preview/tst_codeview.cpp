@@ -23,12 +23,93 @@ class TestCodeView : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void stemsAgreeWithTheGenerator();
-    void filesLandInTheirTabsToBeRead();
-    void scrollPositionSurvivesAReload();
-    void clickedTabIsHighlightedAndStaysSoAfterAReload();
-    void foldAllFoldsOnceUntilExpandAll();
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        m_view.reset(new FormCodeView);
+        m_view->resize(900, 600);
+        m_view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_view.data()));
+    }
+
+    void stemsAgreeWithTheGenerator()
+    {
+        int compared = 0;
+        for (const SeriesTraits& each : seriesList()) {
+            const QScopedPointer<ClockTreePage> page(createSeriesPage(each.series, nullptr));
+            if (!page)
+                continue;
+            QCOMPARE(fileStemOfSeries(each.name()), QLatin1String(page->description().stem));
+            ++compared;
+        }
+        QVERIFY(compared > 0);
+    }
+
+    void filesLandInTheirTabsToBeRead()
+    {
+        load("zn64g110"_s);
+        QCOMPARE(labels(), "main.c zn64g110_clock.c zn64g110_conf.h zn64g110_clock.h"_s);
+        QVERIFY(text(0).startsWith("int main"_s));
+        QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
+        QCOMPARE(text(2), "/* configuration */\n"_s);
+        QCOMPARE(text(3), "/* clock header */\n"_s);
+        for (int tab = 0; tab < 4; ++tab) {
+            const QString before = text(tab);
+            QTest::keyClicks(editor(tab), "typed"_s);
+            QTest::keyClick(editor(tab), Qt::Key_Delete);
+            QCOMPARE(text(tab), before);
+        }
+
+        // Behind a missing file the labels count on, and its tab keeps its text.
+        write("/inc/zn64g120_conf.h"_s, "/* newer */\n");
+        write("/inc/zn64g120_clock.h"_s, "/* clock header */\n");
+        m_view->LoadCode("ZN64G120"_s, folder());
+        QCOMPARE(labels(), "main.c zn64g120_conf.h zn64g120_clock.h zn64g110_clock.h"_s);
+        QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
+        QCOMPARE(text(2), "/* newer */\n"_s);
+    }
+
+    void scrollPositionSurvivesAReload()
+    {
+        const QByteArray line("int line;\n");
+        load("zn64g110"_s, line.repeated(500));
+        QScrollBar* bar = editor(0)->verticalScrollBar();
+        QTRY_VERIFY(bar->maximum() > 100);
+        bar->setValue(77);
+        load("zn64g110"_s, "int other;\n" + line.repeated(500));
+        QVERIFY(text(0).startsWith("int other;"_s));
+        QCOMPARE(bar->value(), 77);
+        QCOMPARE(editor(0)->firstVisibleLine(), 77);
+    }
+
+    void clickedTabIsHighlightedAndStaysSoAfterAReload()
+    {
+        QTest::mouseClick(label(2), Qt::LeftButton);
+        QCOMPARE(m_view->findChild<QTabWidget*>()->currentWidget(), editor(2));
+        for (int round = 0; round < 2; ++round) {
+            for (int tab = 0; tab < 4; ++tab)
+                QCOMPARE(label(tab)->styleSheet().contains("rgb(123, 199, 233)"_s), tab == 2);
+            m_view->TabWidgetTabBarClicked(-1);
+            load("zn64g110"_s);
+        }
+    }
+
+    void foldAllFoldsOnceUntilExpandAll()
+    {
+        load("zn64g110"_s);
+        editor(0)->recolor();
+        const auto visible = [this] {
+            return editor(0)->SendScintilla(QsciScintilla::SCI_GETLINEVISIBLE, 2);
+        };
+        QCOMPARE(visible(), 1L);
+        for (int round = 0; round < 2; ++round) {
+            editor(0)->FoldAll();
+            editor(0)->FoldAll();
+            QCOMPARE(visible(), 0L);
+            editor(0)->ExpandAll();
+            QCOMPARE(visible(), 1L);
+        }
+    }
 
 private:
     MyQsciScintilla* editor(int tab)
@@ -46,108 +127,20 @@ private:
     }
     QString folder() const { return m_folder->path(); }
     void write(const QString& name, const QByteArray& text) { QVERIFY(writeFile(folder() + name, text)); }
-    void load(const QString& series, const QByteArray& main = "int main(void)\n{\n  return 0;\n}\n");
+    // Loads four files of a series whose stem is its name.
+    void load(const QString& series, const QByteArray& main = "int main(void)\n{\n  return 0;\n}\n")
+    {
+        QVERIFY(QDir(folder()).mkpath("src"_s) && QDir(folder()).mkpath("inc"_s));
+        write("/src/main.c"_s, main);
+        write("/src/%1_clock.c"_s.arg(series), "/* clock \xc2\xb5 source */\n");
+        write("/inc/%1_conf.h"_s.arg(series), "/* configuration */\n");
+        write("/inc/%1_clock.h"_s.arg(series), "/* clock header */\n");
+        m_view->LoadCode(series, folder());
+    }
 
     QScopedPointer<QTemporaryDir> m_folder;
     QScopedPointer<FormCodeView> m_view;
 };
-
-void TestCodeView::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    m_view.reset(new FormCodeView);
-    m_view->resize(900, 600);
-    m_view->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_view.data()));
-}
-
-// Loads four files of a series whose stem is its name.
-void TestCodeView::load(const QString& series, const QByteArray& main)
-{
-    QVERIFY(QDir(folder()).mkpath("src"_s) && QDir(folder()).mkpath("inc"_s));
-    write("/src/main.c"_s, main);
-    write("/src/%1_clock.c"_s.arg(series), "/* clock \xc2\xb5 source */\n");
-    write("/inc/%1_conf.h"_s.arg(series), "/* configuration */\n");
-    write("/inc/%1_clock.h"_s.arg(series), "/* clock header */\n");
-    m_view->LoadCode(series, folder());
-}
-
-void TestCodeView::stemsAgreeWithTheGenerator()
-{
-    int compared = 0;
-    for (const SeriesTraits& each : seriesList()) {
-        const QScopedPointer<ClockTreePage> page(createSeriesPage(each.series, nullptr));
-        if (!page)
-            continue;
-        QCOMPARE(fileStemOfSeries(each.name()), QLatin1String(page->description().stem));
-        ++compared;
-    }
-    QVERIFY(compared > 0);
-}
-
-void TestCodeView::filesLandInTheirTabsToBeRead()
-{
-    load("zn64g110"_s);
-    QCOMPARE(labels(), "main.c zn64g110_clock.c zn64g110_conf.h zn64g110_clock.h"_s);
-    QVERIFY(text(0).startsWith("int main"_s));
-    QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
-    QCOMPARE(text(2), "/* configuration */\n"_s);
-    QCOMPARE(text(3), "/* clock header */\n"_s);
-    for (int tab = 0; tab < 4; ++tab) {
-        const QString before = text(tab);
-        QTest::keyClicks(editor(tab), "typed"_s);
-        QTest::keyClick(editor(tab), Qt::Key_Delete);
-        QCOMPARE(text(tab), before);
-    }
-
-    // Behind a missing file the labels count on, and its tab keeps its text.
-    write("/inc/zn64g120_conf.h"_s, "/* newer */\n");
-    write("/inc/zn64g120_clock.h"_s, "/* clock header */\n");
-    m_view->LoadCode("ZN64G120"_s, folder());
-    QCOMPARE(labels(), "main.c zn64g120_conf.h zn64g120_clock.h zn64g110_clock.h"_s);
-    QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
-    QCOMPARE(text(2), "/* newer */\n"_s);
-}
-
-void TestCodeView::scrollPositionSurvivesAReload()
-{
-    const QByteArray line("int line;\n");
-    load("zn64g110"_s, line.repeated(500));
-    QScrollBar* bar = editor(0)->verticalScrollBar();
-    QTRY_VERIFY(bar->maximum() > 100);
-    bar->setValue(77);
-    load("zn64g110"_s, "int other;\n" + line.repeated(500));
-    QVERIFY(text(0).startsWith("int other;"_s));
-    QCOMPARE(bar->value(), 77);
-    QCOMPARE(editor(0)->firstVisibleLine(), 77);
-}
-
-void TestCodeView::clickedTabIsHighlightedAndStaysSoAfterAReload()
-{
-    QTest::mouseClick(label(2), Qt::LeftButton);
-    QCOMPARE(m_view->findChild<QTabWidget*>()->currentWidget(), editor(2));
-    for (int round = 0; round < 2; ++round) {
-        for (int tab = 0; tab < 4; ++tab)
-            QCOMPARE(label(tab)->styleSheet().contains("rgb(123, 199, 233)"_s), tab == 2);
-        m_view->TabWidgetTabBarClicked(-1);
-        load("zn64g110"_s);
-    }
-}
-
-void TestCodeView::foldAllFoldsOnceUntilExpandAll()
-{
-    load("zn64g110"_s);
-    editor(0)->recolor();
-    const auto visible = [this] { return editor(0)->SendScintilla(QsciScintilla::SCI_GETLINEVISIBLE, 2); };
-    QCOMPARE(visible(), 1L);
-    for (int round = 0; round < 2; ++round) {
-        editor(0)->FoldAll();
-        editor(0)->FoldAll();
-        QCOMPARE(visible(), 0L);
-        editor(0)->ExpandAll();
-        QCOMPARE(visible(), 1L);
-    }
-}
 
 QTEST_MAIN(TestCodeView)
 #include "tst_codeview.moc"

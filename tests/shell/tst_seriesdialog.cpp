@@ -20,33 +20,22 @@ private slots:
 
     void typedNameMovesTheLists_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("series");
-        const auto row = [](const char* name, const char* typed, const char* line, const char* series) {
-            QTest::newRow(name) << QString::fromLatin1(typed) << QString::fromLatin1(line)
-                                << QString::fromLatin1(series);
-        };
-        row("another line", "ZN64G152", "High performance", "ZN64G152");
-        row("the line shown", "ZN64G167", "Mainstream", "ZN64G167");
-        row("wrong case", "zn64g152", "Mainstream", "ZN64G171");
-        row("part of a name", "ZN64G15", "Mainstream", "ZN64G171");
-        row("series for files only", "ZN64G190", "Mainstream", "ZN64G171");
-        row("no device", "clock", "Mainstream", "ZN64G171");
+        fieldRows({"ZN64G152 | High performance | ZN64G152", "ZN64G167 | Mainstream | ZN64G167",
+                   // The wrong case, a part of a name, a series for files only, no device.
+                   "zn64g152 | Mainstream | ZN64G171", "ZN64G15 | Mainstream | ZN64G171",
+                   "ZN64G190 | Mainstream | ZN64G171", "clock | Mainstream | ZN64G171"});
     }
 
     void typedNameMovesTheLists()
     {
-        QFETCH(QString, typed);
+        QFETCH(QStringList, fields);
         search()->setFocus();
-        QTest::keyClicks(search(), typed);
+        QTest::keyClicks(search(), fields[0]);
         search()->completer()->popup()->hide();
         QTest::keyClick(search(), Qt::Key_Tab);
 
         QVERIFY(!search()->hasFocus());
-        QTEST(line(), "line");
-        QTEST(series(), "series");
-        QCOMPARE(search()->text(), typed);
+        QCOMPARE(QStringList({search()->text(), line(), series()}), fields);
         QCOMPARE(box("m_QueryDevice_ComboBox")->count(), 20);
     }
 

@@ -1,0 +1,20 @@
+# The model stands on Qt Core alone: it must build and run without a display. Its headers are its own, by their
+# folder, and Qt Core's and the standard library's, without a folder in their names.
+# Run with -DSOURCES=folder -DLINKS=libraries.
+if(NOT LINKS STREQUAL "Qt5::Core,Qt5::Core")
+    message(FATAL_ERROR "the model links ${LINKS}")
+endif()
+file(GLOB sources ${SOURCES}/*.h ${SOURCES}/*.cpp)
+set(seen 0)
+foreach(source ${sources})
+    file(STRINGS ${source} includes REGEX "^ *# *include ")
+    foreach(include ${includes})
+        math(EXPR seen "${seen} + 1")
+        if(NOT include MATCHES "include (<[A-Za-z0-9_]+>|\"model/[A-Za-z0-9_]+\\.h\")$")
+            message(FATAL_ERROR "${source}: ${include}")
+        endif()
+    endforeach()
+endforeach()
+if(seen LESS 20)
+    message(FATAL_ERROR "only ${seen} includes were found in ${SOURCES}")
+endif()
