@@ -47,10 +47,10 @@ std::vector<StartValue> parseStart(const char* text)
 
 // A peripheral's small tree, pixels from its corner: the names of the sources, their buttons, the switch, the
 // result and its unit; one source below the other.
-constexpr int sourceRadioRight = 62;
-constexpr int switchRight = 112;
-constexpr int resultRight = 200;
-constexpr int unitRight = 284;
+constexpr int sourceRadioRight = 58;
+constexpr int switchRight = 96;
+constexpr int resultRight = 178;
+constexpr int unitRight = 262;
 constexpr int firstSourceDown = 24;
 constexpr int sourcePitch = 20;
 constexpr int radioBelowName = 2;

@@ -1,0 +1,234 @@
+#include "pages/series/families.h"
+
+#include "model/divisors.h"
+#include "pages/description/peripherals.h"
+
+namespace {
+
+// clang-format off
+const Places& places()
+{
+    static const Places table = {
+        // The oscillators and the RTC
+        {"m_lick_Label",               80,  20}, {"m_lick_lineEdit",             65,  37},
+        {"m_lext_Label1",              80,  82}, {"m_lext_lineEdit",             65,  99},
+        {"m_lextbypass_Label",         83, 130}, {"m_lextbypass_ComboBox",       65, 148},
+        {"m_lext_In",                  18, 101}, {"m_lext_Out",                   6, 112},
+        {"m_hext_Label1",              65, 230}, {"m_hext_lineEdit",             65, 248},
+        {"m_hextbypass_Label",         83, 280}, {"m_hextbypass_ComboBox",       65, 298},
+        {"m_hext_In",                  18, 250}, {"m_hext_Out",                   6, 261},
+        {"m_hick_Label",               80, 381}, {"m_hick_lineEdit",             65, 399},
+        {"m_rtcdiv_Label",            250, 135}, {"m_rtcdiv_ComboBox",          240, 150},
+        {"m_rtcsel_Label",            332, 186, "ertcsel"},
+        {"m_rtcsel_lick_RadioButton", 345,  45},
+        {"m_rtcsel_lext_RadioButton", 345, 107}, {"m_rtcsel_hext_RadioButton",  345, 155},
+        {"m_tortc_ComboBox",          405, 102}, {"m_tortc_lineEdit",           510, 102},
+        {"m_tortc_Label",             595, 105, "to ertc(kHz)"},
+        {"m_towdt_lineEdit",          510,  17},
+
+        // The PLL to the system clock
+        {"m_pllrc_Label",             332, 220},
+        {"m_pllrcs_hext_RadioButton", 342, 256}, {"m_pllrcs_hick_RadioButton",   342, 316},
+        {"m_pllms_Label1",            410, 262}, {"m_pllms_lineEdit",            395, 282},
+        {"m_pllms_Label2",            405, 313},
+        {"m_pllns_Label1",            497, 262}, {"m_pllns_lineEdit",            482, 282},
+        {"m_pllns_Label2",            487, 312},
+        {"m_pllfp_Label",             585, 262}, {"m_pllfp_ComboBox",            570, 282},
+        {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     510, 227},
+        {"m_pllclk_Label",            645, 268},
+        {"m_hextdiv_Label",           603, 174}, {"m_hextdiv_ComboBox",          600, 194},
+        {"m_hickdiv_Label",           603, 356}, {"m_hickdiv_ComboBox",          600, 376},
+        {"m_hicktosclk_Label",        267, 440},
+        {"m_hicktosclk_div6_RadioButton", 288, 357}, {"m_hicktosclk_RadioButton", 288, 407},
+        {"m_sclkselect_Label",        712, 170}, {"m_sclkselect_hext_RadioButton", 738, 232},
+        {"m_sclkselect_pll_RadioButton", 738, 290}, {"m_sclkselect_hick_RadioButton", 738, 347},
+        {"m_sclk_Label",              775, 262, "sclk(%1MHz max)"},
+        {"m_sclk_lineEdit",           783, 282},
+
+        // The buses
+        {"m_ahbdiv_Label",     934, 263}, {"m_ahbdiv_ComboBox",      924, 283},
+        {"m_apb1div_Label",   1041, 403}, {"m_apb1div_ComboBox",    1036, 423},
+        {"m_apb1divMax_Label", 1091, 413, "192MHz max"},
+        {"m_apb2div_Label",   1041, 526}, {"m_apb2div_ComboBox",    1036, 546},
+        {"m_apb2divMax_Label", 1091, 536, "192MHz max"},
+        {"m_apb3div_Label",   1041, 646}, {"m_apb3div_ComboBox",    1036, 666},
+        {"m_apb3divMax_Label", 1091, 656},
+        {"m_tosystick_div",   1092, 75},
+        {"m_toapb1tmr_mul",   1092, 457}, {"m_toapb2tmr_mul",       1092, 578},
+        {"m_toapb1tmr_div",   1132, 457}, {"m_toapb2tmr_div",       1132, 578},
+
+        // USB
+        {"m_pllfu_Label",      720, 433}, {"m_pllfu_ComboBox",       710, 408},
+        {"m_hicktousb_Label",   768, 490},
+        {"m_tousb_pll_RadioButton", 795, 415}, {"m_tousb_hick_RadioButton", 795, 455},
+        {"m_tousb_Label",       850, 410}, {"m_tousbswitch_ComboBox",  840, 430},
+        {"m_usbclock_Label",    920, 460},
+
+        // The clock output
+        {"m_clockoutpin_Label",      67, 692}, {"m_clockoutpin_ComboBox",   60, 712},
+        {"m_clockoutdiv2_Label",    150, 692}, {"m_clockoutdiv2_ComboBox", 152, 712},
+        {"m_clockoutdiv1_Label",    242, 692}, {"m_clockoutdiv1_ComboBox", 244, 712},
+        {"m_clockout_Value_QLabel",  20, 745}, {"m_clockout_QLabel",       340, 806},
+    };
+    return table;
+}
+
+OutputColumn outputs()
+{
+    return {1182, {
+        {"toi2s", 40}, {"tosystick", 77}, {"tosido", 113}, {"todma", 150}, {"toxmc", 186}, {"togpio", 223}, {"toaes", 259}, {"totrng", 296}, {"toqspi", 333}, {"toadc", 371}, {"toapb1peripheral", 423}, {"toapb1tmr", 493}, {"toapb2peripheral", 546}, {"toapb2tmr", 614}, {"toapb3peripheral", 666},
+    }};
+}
+
+PeripheralLists lists()
+{
+    return {
+        {468, "SPI2 SPI3 USART2 USART3 USART4 USART5 USART7 USART8 I2C1 I2C2 I2C3 CAN1 CAN2 CAN3 DAC"},
+        {538, "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14"},
+        {591, "SPI1 SPI4 USART1 USART6 SCFG"},
+        {659, "TMR1 TMR8 TMR9 TMR10 TMR11"},
+    };
+}
+
+ClockOutput clockOutput()
+{
+    ClockOutput output = singleClockOutput();
+    output.pins = {{"PA8", CLKOUTPIN_PA8}, {"PA9", CLKOUTPIN_PA9}, {"PB13", CLKOUTPIN_PB13}, {"PC9", CLKOUTPIN_PC9}, {"PE4", CLKOUTPIN_PE4}};
+    // The series lacks a pin in the middle of the numbers: index and number differ.
+    output.pinsByText = true;
+    output.column = {352, 410, 450, -2};
+    output.rows = {
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  645, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  665, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   685, "pll"},
+        {CLKOUT_USBFS,    "usb",     ClockSource::Usb,   705, "usb", RowGate::Usb},
+        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   725, "adc"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  745, "hick"},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  765, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  785, "lext"},
+    };
+    output.dividers = {
+        dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),
+        dividers::clockOutputSecond("New_clockoutdiv2", "m_clockoutdiv2", "clkoutdiv2", MODEL_FIELD(CLKOUT_Div2)),
+    };
+    output.fallback = CLKOUT_SCLK;
+    return output;
+}
+
+/// "pllu" is red by the system clock and not by the clock shown, which is meant.
+PeripheralClock can(PeripheralClock clock, int x)
+{
+    clock.limit = 192.0;
+    clock.sources = {
+        {CAN_CLOCK_SOURCE_HEXT, "hext", ClockSource::Hext, ClockSource::Hext},
+        {CAN_CLOCK_SOURCE_PLL,  "pllu", ClockSource::PllU, ClockSource::Sclk},
+        {CAN_CLOCK_SOURCE_PCLK, "pclk", ClockSource::Apb1, ClockSource::Apb1},
+    };
+    clock.x = x;
+    clock.y = 515;
+    return clock;
+}
+
+PeripheralClock i2sf5()
+{
+    PeripheralClock clock = peripherals::i2sf5();
+    clock.limit = 192.0;
+    clock.sources = {
+        {I2SF5_CLOCK_SOURCE_PCLK,     "pllp",     ClockSource::Pll,  ClockSource::Pll},
+        {I2SF5_CLOCK_SOURCE_SCLK,     "sclk",     ClockSource::Sclk, ClockSource::Sclk},
+        {I2SF5_CLOCK_SOURCE_HICK,     "hick",     ClockSource::Hick},
+        {I2SF5_CLOCK_SOURCE_EXTERNAL, "external", ClockSource::Outside},
+    };
+    clock.x = 700;
+    clock.y = 640;
+    return clock;
+}
+// clang-format on
+
+Limits paintedWithApb3(double apb3)
+{
+    return limits::painted(192.0, 192.0, 192.0) +
+           Limits{limits::above(ClockSource::Pll, 192.0), limits::above(ClockSource::Apb3, apb3)};
+}
+
+} // namespace
+
+PageDescription families::g165()
+{
+    PageDescription page{ZN64G165, "G165PLL.bmp", QSize(1404, 833), "zn64g16x", places()};
+    page.outputs = outputs();
+    page.lists = lists();
+    page.start =
+        "rtcsel=0 rtcswitch=0 lextbypass=0 rtcdiv=2 hextbypass=0 hext=8 hextdiv=1 hickdiv=1 pllrcs=0 "
+        "pllms=1 pllns=144 pllfp=6 sclkselect=1 ahbdiv=1 apb1div=1 apb2div=1 apb3div=4 tmrmultiply=1 "
+        "pllfu=16 hicktousb=0 tousbswitch=1 hicktosclk=0 clkout=5 clkoutdiv1=1 clkoutdiv2=1 "
+        "clkoutpinselect=0 can1clocksel=0 can1switch=0 can2clocksel=0 can2switch=0 can3clocksel=0 "
+        "can3switch=0 i2sf5clocksel=0 i2sf5switch=0";
+    page.fixedFields = [](ZN64ConfigCLK& model) { model.Set_ConfigMode(PLLMODE_FLEXIBLE); };
+    page.fileOrder = "lextbypass rtcsel rtcswitch rtcdiv hext hextbypass hextdiv hickdiv pllrcs pllms pllns "
+                     "pllfp sclkselect ahbdiv apb1div apb2div apb3div pllfu hicktousb tousbswitch hicktosclk "
+                     "clkout clkoutdiv1 clkoutdiv2 clkoutpinselect can1clocksel can1switch can2clocksel "
+                     "can2switch can3clocksel can3switch i2sf5clocksel i2sf5switch";
+    page.readingOrder =
+        "lextbypass rtcsel rtcswitch rtcdiv hext hextbypass hextdiv hickdiv pllrcs pllms pllns "
+        "pllfp sclkselect ahbdiv apb1div apb2div apb3div pllfu hicktosclk hicktousb tousbswitch "
+        "clkoutpinselect clkout clkoutdiv1 clkoutdiv2 can1clocksel can1switch can2clocksel "
+        "can2switch can3clocksel can3switch i2sf5clocksel i2sf5switch";
+    page.rtcHextDivisor.reset();
+    page.pllParameters = true;
+    page.hickToSclk = true;
+    page.clockOutputs = {clockOutput()};
+    page.typedSclk = {{}, 192.0};
+    page.painted = paintedWithApb3(apb3LimitMHz);
+    // Saving tells other numbers than it compares.
+    page.onSaving = {limits::above(ClockSource::Sclk, 192.0), limits::above(ClockSource::Apb1, 192.0, 96),
+                     limits::above(ClockSource::Apb2, 192.0, 96), limits::usbClock()};
+    page.onGenerating = limits::refused(192.0, 192.0, 192.0) + Limits{limits::usbClock()};
+    page.generatedApb3 = apb3LimitMHz;
+    page.usb = UsbPart{dividers::pllFu(), true};
+    page.timerHalves = true;
+    page.dividers = {dividers::rtc(), dividers::hextToSclk(), dividers::hickToSclk(), dividers::pllFp(),
+                     dividers::ahb(), dividers::apb1(),       dividers::apb2(),       dividers::apb3()};
+    page.peripherals = {can(peripherals::can1(), 40), can(peripherals::can2(), 370),
+                        can(peripherals::can3(), 700), i2sf5()};
+    page.hickAtOutputs = HickAtOutputs::Always48;
+    page.alwaysSearchesUsb = true;
+    return page;
+}
+
+PageDescription families::g166()
+{
+    PageDescription page = g165();
+    page.series = ZN64G166;
+    page.picture = "G166PLL.bmp";
+    // Shown in normal colour at values that generating refuses, which is meant.
+    page.painted = paintedWithApb3(192.0);
+    return page;
+}
+
+PageDescription families::g167()
+{
+    PageDescription page = g166();
+    page.series = ZN64G167;
+    page.picture = "G167PLL.bmp";
+    // clang-format off
+    page.places = page.places.moved({
+        {"m_apb1div_Label", 1041, 426}, {"m_apb1div_ComboBox", 1036, 446}, {"m_apb1divMax_Label", 1091, 436},
+        {"m_apb2div_Label", 1041, 540}, {"m_apb2div_ComboBox", 1036, 560}, {"m_apb2divMax_Label", 1091, 550},
+        {"m_apb3div_Label", 1041, 642}, {"m_apb3div_ComboBox", 1036, 662}, {"m_apb3divMax_Label", 1091, 652},
+        {"m_toapb1tmr_mul", 1092, 477}, {"m_toapb1tmr_div", 1132, 477},
+        {"m_toapb2tmr_mul", 1092, 590}, {"m_toapb2tmr_div", 1132, 590},
+    });
+    page.outputs.rows = {
+        {"toi2s", 40}, {"tosystick", 77}, {"tosido", 113}, {"todma", 150}, {"toxmc", 186}, {"togpio", 223},
+        {"toaes", 259}, {"totrng", 296}, {"toqspi", 333}, {"toemac", 370}, {"toadc", 408},
+        {"toapb1peripheral", 446}, {"toapb1tmr", 508}, {"toapb2peripheral", 560}, {"toapb2tmr", 619},
+        {"toapb3peripheral", 662},
+    };
+    // clang-format on
+    page.lists.apb1.y = 491;
+    page.lists.apb1Timers.y = 553;
+    page.lists.apb2.y = 605;
+    page.lists.apb2Timers.y = 664;
+    return page;
+}
