@@ -6,6 +6,7 @@
 #include "pages/blocks/PllSourceBlock.h"
 
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 ClockTreePage::ClockTreePage(const PageDescription& description, QWidget* parent)
     : ZN64MCUPLL(description.series, QLatin1String(":/image/") + QLatin1String(description.picture), parent),
@@ -29,6 +30,7 @@ void ClockTreePage::build()
 
 void ClockTreePage::InitAllControl()
 {
+    const QScopedValueRollback<bool> taking(m_takingDesign, true);
     if (m_description.fixedFields)
         m_description.fixedFields(model());
     for (const StartValue& start : m_description.startValues())
@@ -87,7 +89,7 @@ void ClockTreePage::UpdateResultControls()
 
 void ClockTreePage::UpdateParam_From_ResultCLK()
 {
-    if (readingDesign())
+    if (takingDesign())
         model().CalculateCLK();
     else if (sclkFromPll())
         model().CalculateParam_From_SYSCLK();
@@ -119,7 +121,7 @@ void ClockTreePage::UpdateRTCParam()
 
 void ClockTreePage::searchUsb()
 {
-    if (readingDesign())
+    if (takingDesign())
         return;
     model().CalculateParam_From_USBCLK();
     updatePllControls();
@@ -140,7 +142,7 @@ void ClockTreePage::serveUsb()
 
 bool ClockTreePage::TextBox_Input_Valid_Check()
 {
-    if (readingDesign())
+    if (takingDesign())
         return true;
     if (hextNeeded() && !readHext())
         return false;

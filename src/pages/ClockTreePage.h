@@ -78,7 +78,7 @@ private:
     bool pllInUse() const override;
     bool hextInUse() const override;
     double hickAtOutputs() const override;
-    bool readingDesign() const override { return m_readingDesign; }
+    bool takingDesign() const override { return m_takingDesign; }
 
     // What the blocks have done.
 
@@ -147,7 +147,7 @@ private:
     QHash<QString, std::function<void()>> m_routines;
     QHash<QString, Setting> m_settings;
     QSet<QString> m_takenPlaces;
-    bool m_readingDesign = false;
+    bool m_takingDesign = false;
 
     LowSpeedBlock* m_lowSpeed = nullptr;
     HighSpeedBlock* m_highSpeed = nullptr;

@@ -51,7 +51,7 @@ bool ClockTreePage::writeDesign(const QString& path, const QString& seriesName) 
 void ClockTreePage::OpenFromFile(const QString& path)
 {
     // What is out of range is told at the next edit or on generating.
-    const QScopedValueRollback<bool> reading(m_readingDesign, true);
+    const QScopedValueRollback<bool> reading(m_takingDesign, true);
     InitAllControl();
     QDomDocument document;
     loadGuardedXml(path, document);

@@ -134,7 +134,7 @@ bool ClockTreePage::Result_SYSCLK_Valid(double& value)
 bool ClockTreePage::readHext()
 {
     // The file's number stands in the model already; the edit may hold less of it than the file.
-    if (readingDesign())
+    if (takingDesign())
         return true;
     double hext = 0.0;
     if (!Hext_Value_Valid(hext))

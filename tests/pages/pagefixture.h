@@ -46,7 +46,10 @@ public:
     template <class Control = QWidget>
     Control* find(const QString& name) const
     {
-        auto* control = page->findChild<Control*>(QLatin1String("m_") + name);
+        // Two series spell the member of hext's edit otherwise.
+        const bool hext = name == QLatin1String("hext_lineEdit");
+        auto* control = page->findChild<Control*>(hext ? QLatin1String(page->description().hextEdit)
+                                                       : QLatin1String("m_") + name);
         if (!control)
             qFatal("no control %s", qPrintable(name));
         return control;
@@ -82,6 +85,8 @@ public:
 private:
     void takeRandomStep(QRandomGenerator& random) const;
     QStringList modelState() const;
+    /// Whether the result of a peripheral is kept up at present; one follows the switch of another.
+    bool isWritten(const QString& control) const;
     static QString colors(const QWidget* control);
     static QString text(const QWidget* control);
 
@@ -168,16 +173,25 @@ inline QStringList PageFixture::state() const
             value.prepend(QString::number(combo->currentIndex()));
         else if (radio)
             value = QLatin1String(radio->isChecked() ? "checked" : "");
-        else if (edit && name == QLatin1String("m_hext_lineEdit"))
+        else if (edit && name.toLower() == QLatin1String("m_hext_lineedit"))
             value = QString::number(value.toDouble());
         else if (edit && name.startsWith(QLatin1String("m_to")))
-            value = edit->isEnabled() ? value + colors(edit) : QString();
-        else if (!edit && (control->isHidden() || !control->isEnabled()))
+            value = edit->isEnabled() && isWritten(name) ? value + colors(edit) : QString();
+        else if (!edit && (control->isHidden() || !control->isEnabled() || !isWritten(name)))
             value = QLatin1String(control->isWindow() ? "hidden" : "");
         lines += name.mid(2) + QLatin1String(control->isEnabled() ? ": " : " (off): ") + value;
     }
     lines.sort();
     return lines + modelState();
+}
+
+inline bool PageFixture::isWritten(const QString& control) const
+{
+    for (const PeripheralClock& clock : page->description().peripherals)
+        if (clock.writtenWhile.get &&
+            control.startsWith(QStringLiteral("m_to%1_").arg(QLatin1String(clock.stem))))
+            return clock.writtenWhile.get(page->model()) != 0.0;
+    return true;
 }
 
 inline QStringList PageFixture::modelState() const
@@ -207,7 +221,7 @@ inline QStringList PageFixture::modelState() const
     lines += model.traits().pll_fp_output ? FIELD(PLL_FP) : FIELD(PLL_FR);
     if (model.pll_isEnable())
         lines += FIELD(PLLCLKValue);
-    if (model.usbpll_isEnable())
+    if (page->description().usb && model.usbpll_isEnable())
         lines += FIELD(USBCLKValue);
 #undef FIELD
     return lines;
@@ -241,7 +255,7 @@ inline void PageFixture::takeRandomStep(QRandomGenerator& random) const
     static_cast<QLineEdit*>(choice)->setText(
         name == QLatin1String("m_pllms_lineEdit")   ? QString::number(random.bounded(1, 16))
         : name == QLatin1String("m_pllns_lineEdit") ? QString::number(random.bounded(31, 501))
-        : name == QLatin1String("m_hext_lineEdit")
+        : name.toLower() == QLatin1String("m_hext_lineedit")
             ? QString::number(tenths / 10.0)
             : QString::number(tenths / 250.0 * page->model().GetSYSCLKValidMaxValue(), 'f', 3));
     QTest::keyClick(choice, Qt::Key_Return);
@@ -267,6 +281,19 @@ inline void templateRows()
         if (QFile::exists(QStringLiteral(":/image/%1_main.c").arg(QLatin1String(page->description().stem))))
             QTest::newRow(traits.word) << QString::fromLatin1(traits.word);
     }
+}
+
+/// Whether no series before this one has tables of the same family: the random work on siblings is less.
+inline bool isFirstOfFamily(const PageFixture& page)
+{
+    for (const SeriesTraits& traits : seriesList()) {
+        if (traits.series == page.model().series())
+            return true;
+        const QScopedPointer<ClockTreePage> other(createSeriesPage(traits.series, nullptr));
+        if (other && other->description().fileOrder == page.page->description().fileOrder)
+            return false;
+    }
+    return true;
 }
 
 inline bool hasPage(const QString& word)

@@ -37,10 +37,15 @@ void ClockOutputBlock::New_clockoutpinselect()
     label(member("pin_Label"));
     m_pinValue = label(member("_Value_QLabel"));
     ZN64MCUPLL::SetLabelColor(m_pinValue, Qt::darkGreen);
-    addSetting(m_output.pinSetting,
-               settings::whole(
-                   model(), m_output.pinField, [this](double number) { showPinOf(static_cast<int>(number)); },
-                   settings::unchecked()));
+    Setting setting = settings::whole(
+        model(), m_output.pinField, [this](double number) { showPinOf(static_cast<int>(number)); },
+        settings::unchecked());
+    // The reset knows no other pin than none, for which a text says nothing.
+    setting.set = [this](double none) {
+        m_pin->setCurrentIndex(static_cast<int>(none));
+        m_output.pinField.set(model(), none);
+    };
+    addSetting(m_output.pinSetting, setting);
 }
 
 void ClockOutputBlock::showPinOf(int number)

@@ -93,7 +93,7 @@ void HighSpeedBlock::Show_hext(bool on)
 bool HighSpeedBlock::Hext_Value_Valid(double& value)
 {
     const double hext = typed();
-    if (tree().readingDesign() || inputlimits::hextInRange(hext)) {
+    if (tree().takingDesign() || inputlimits::hextInRange(hext)) {
         value = hext;
         return true;
     }

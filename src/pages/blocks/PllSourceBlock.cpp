@@ -60,7 +60,7 @@ void PllSourceBlock::UI_Display()
 
 bool PllSourceBlock::PLLInputSourceClockCheck()
 {
-    if (tree().readingDesign() || !model().pll_isEnable() || !hextSelected())
+    if (tree().takingDesign() || !model().pll_isEnable() || !hextSelected())
         return true;
     const double input = model().GetPllInPutValue();
     if (input >= inputlimits::pllInputMin && input <= inputlimits::pllInputMax)

@@ -92,7 +92,7 @@ bool SystemClockBlock::inRange(double sysclk) const
 bool SystemClockBlock::Result_SYSCLK_Valid(double& value)
 {
     const double sysclk = typed();
-    if (tree().readingDesign() || inRange(sysclk)) {
+    if (tree().takingDesign() || inRange(sysclk)) {
         value = sysclk;
         return true;
     }

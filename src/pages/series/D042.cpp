@@ -90,7 +90,7 @@ ClockOutput clockOutput()
         {CLKOUT_NOCLK,    "noclk",   ClockSource::None,    565, "no clk"},
         {CLKOUT_LICK,     "lick",    ClockSource::Lick,    584, "lick"},
         {CLKOUT_LEXT,     "lext",    ClockSource::Lext,    604, "lext"},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,    626, "hick48"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,    626, "hick48", RowGate::None, 10},
         {CLKOUT_HEXT,     "hext",    ClockSource::Hext,    648, "hext"},
         {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,    668, "sclk"},
         {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,     689, "adcclk", RowGate::Adc, 10},

@@ -34,7 +34,7 @@ const Places& places()
         {"m_pllns_Label1",            497, 262}, {"m_pllns_lineEdit",            482, 282},
         {"m_pllns_Label2",            487, 312},
         {"m_pllfr_Label",             585, 262}, {"m_pllfr_ComboBox",            570, 282},
-        {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     510, 227},
+        {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     532, 227},
         {"m_pllclk_Label",            645, 268},
         {"m_hextdiv_Label",           603, 174}, {"m_hextdiv_ComboBox",          600, 194},
         {"m_hickdiv_Label",           603, 356}, {"m_hickdiv_ComboBox",          600, 376},

@@ -130,7 +130,7 @@ PageDescription families::g142()
     page.start = "rtcsel=0 rtcswitch=0 lextbypass=0 hextbypass=0 hext=8 pllhextdiv=0 pllrcs=0 pllmode=0 "
                  "pllmult=25 pllms=1 pllns=75 pllfr=4 sclkselect=1 ahbdiv=1 apb1div=1 apb2div=1 apb3div=4 "
                  "tmrmultiply=1 adcswitch=0 adcdiv=6 hicktosclk=0 clkout=0 clkoutdiv=1 clkoutpinselect=0 "
-                 "canclocksel=0 canswitch=0";
+                 "canclocksel=2 canswitch=0";
     page.fixedFields = [](ZN64ConfigCLK& model) { model.Set_HEXT_DIV(2); };
     page.fileOrder = "lextbypass rtcsel rtcswitch hext hextbypass pllhextdiv pllrcs pllmode pllmult pllms "
                      "pllns pllfr sclkselect ahbdiv apb1div apb2div apb3div hicktosclk clkout clkoutdiv "

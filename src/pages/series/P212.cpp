@@ -34,7 +34,7 @@ const Places& places()
         {"m_pllns_Label1",            497, 262}, {"m_pllns_lineEdit",            482, 282},
         {"m_pllns_Label2",            487, 312},
         {"m_pllfr_Label",             585, 262}, {"m_pllfr_ComboBox",            570, 282},
-        {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     510, 227},
+        {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     532, 227},
         {"m_pllclk_Label",            645, 268},
         {"m_hextdiv_Label",           603, 174}, {"m_hextdiv_ComboBox",          600, 194},
         {"m_hickdiv_Label",           603, 356}, {"m_hickdiv_ComboBox",          600, 376},
@@ -132,7 +132,7 @@ PageDescription families::p212()
     page.start =
         "rtcsel=0 rtcswitch=0 lextbypass=0 rtcdiv=2 hextbypass=0 hext=8 hextdiv=1 hickdiv=1 pllrcs=0 "
         "pllms=1 pllns=90 pllfr=4 sclkselect=1 ahbdiv=1 apb1div=1 apb2div=1 apb3div=4 tmrmultiply=1 "
-        "hicktosclk=0 clkout=5 clkoutdiv1=1 clkoutdiv2=1 clkoutpinselect=0 canclocksel=0 canswitch=0";
+        "hicktosclk=0 clkout=5 clkoutdiv1=1 clkoutdiv2=1 clkoutpinselect=0 canclocksel=2 canswitch=0";
     page.fixedFields = [](ZN64ConfigCLK& model) { model.Set_ConfigMode(PLLMODE_FLEXIBLE); };
     page.fileOrder =
         "lextbypass rtcsel rtcswitch rtcdiv hext hextbypass hextdiv hickdiv pllrcs pllms pllns "
