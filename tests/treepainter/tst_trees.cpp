@@ -20,8 +20,37 @@ PageLayout samplePage()
     add("oscName", ControlKind::Label, {20, 20, 40, 15});
     add("a", ControlKind::Radio, {200, 50, 12, 12});
     add("b", ControlKind::Radio, {200, 100, 12, 12});
-    add("out", ControlKind::Field, {300, 70, 60, 25}).output = true;
+    add("out", ControlKind::Field, {300, 70, 60, 25}).bus = QStringLiteral("ahb");
     add("value", ControlKind::Label, {250, 250, 9, 15}).empty = true;
+    return page;
+}
+
+/// The outline of a page with a clock output, a peripheral's selector and a bus.
+PageLayout selectorPage()
+{
+    PageLayout page{QSize(400, 300), {}};
+    const auto add = [&page](const char* name, ControlKind kind, const QRectF& rect, const char* bus = "") {
+        page.controls.push_back({QString::fromLatin1(name), kind, rect});
+        page.controls.back().bus = QString::fromLatin1(bus);
+    };
+    add("m_clockout_hick_RadioButton", ControlKind::Radio, {240, 20, 12, 12});
+    add("m_clockout_hick_QLabel1", ControlKind::Label, {300, 18, 26, 16});
+    add("m_clockout_hick_QLabel", ControlKind::Label, {330, 18, 26, 16});
+    add("m_clockout_noclk_RadioButton", ControlKind::Radio, {240, 50, 12, 12});
+    add("m_clockout_noclk_QLabel1", ControlKind::Label, {300, 48, 26, 16});
+    add("m_clockoutpin_ComboBox", ControlKind::Field, {90, 28, 40, 25});
+    add("m_clockoutdiv2_ComboBox", ControlKind::Field, {150, 28, 20, 25});
+    add("m_clockoutdiv1_ComboBox", ControlKind::Field, {190, 28, 20, 25});
+    add("m_i2c1_pclk_QLabel", ControlKind::Label, {10, 120, 26, 16});
+    add("m_i2c1_pclk_RadioButton", ControlKind::Radio, {70, 122, 12, 12});
+    add("m_i2c1_hick_QLabel", ControlKind::Label, {10, 150, 26, 16});
+    add("m_i2c1_hick_RadioButton", ControlKind::Radio, {70, 152, 12, 12});
+    add("title", ControlKind::Label, {60, 90, 30, 16});
+    add("switch", ControlKind::Field, {120, 132, 40, 25});
+    add("result", ControlKind::Field, {200, 132, 40, 25});
+    add("sdio", ControlKind::Field, {300, 120, 40, 25}, "ahb");
+    add("xmc", ControlKind::Field, {300, 160, 40, 25}, "ahb");
+    add("apb", ControlKind::Field, {300, 200, 40, 25}, "apb1");
     return page;
 }
 
@@ -34,13 +63,13 @@ QString sampleTree()
                           "wire sel.nose out.left\n");
 }
 
-/// What the painter tells of a tree of the sample page, a line each.
-QString problemsOf(const QString& text)
+/// What the painter tells of a tree of a page with these states, a line each.
+QString problemsOf(const QString& text, const std::vector<PageLayout>& states)
 {
-    PageLayout page = samplePage();
+    PageLayout page = together(states);
     Problems problems;
     const Drawing drawing = buildDrawing(parseTree(text, QStringLiteral("t.tree"), problems), page, problems);
-    checkDrawing(drawing, page, QStringLiteral("t.tree"), problems);
+    checkDrawing(drawing, states, QStringLiteral("t.tree"), problems);
     QStringList lines;
     for (const Problem& problem : problems)
         lines << problem.text();
@@ -59,8 +88,12 @@ private slots:
     void includes();
     void routes_data();
     void routes();
+    void joins_data();
+    void joins();
     void checks_data();
     void checks();
+    void pages_data();
+    void pages();
 };
 
 void TestTrees::includes_data()
@@ -113,7 +146,7 @@ void TestTrees::routes_data()
     const auto row = [](const char* wire, const char* points) {
         QTest::newRow(wire) << QString::fromUtf8(wire) << QString::fromUtf8(points);
     };
-    row("wire osc.right a.in", "80,56.5 193,56.5");
+    row("wire osc.right a.in", "80,55.5 193,55.5");
     row("wire osc.right+8 x=130 a.in", "80,63.5 130.5,63.5 130.5,56.5 193,56.5");
     row("wire osc.right x=100 b.in", "80,55.5 100.5,55.5 100.5,106.5 193,106.5");
     row("wire sel.nose out.left-10", "223,72.5 300,72.5");
@@ -121,6 +154,11 @@ void TestTrees::routes_data()
     row("wire sel.nose x=260 out.bottom", "");
     row("wire osc.right x=osc.right+20 y=osc-30", "80,55.5 100.5,55.5 100.5,25.5");
     row("wire out.right value.right+2", "");
+    row("chain osc a.in sel.nose x=260", "80,55.5 193,55.5 223,55.5 260.5,55.5");
+    row("chain y=57 out x=260", "");
+    row("chain y=75 out x=260", "300,75.5 260.5,75.5");
+    row("chain osc x=100 out", "");
+    row("chain osc a.in out", "");
 }
 
 void TestTrees::routes()
@@ -138,6 +176,49 @@ void TestTrees::routes()
     }
     QCOMPARE(route.join(QLatin1Char(' ')), points);
     QCOMPARE(problems.empty(), !points.isEmpty());
+}
+
+void TestTrees::joins_data()
+{
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QString>("joins");
+    const auto row = [](const char* tree, const char* joins) {
+        QTest::newRow(tree) << QString::fromUtf8(tree) << QString::fromUtf8(joins);
+    };
+    row("clockout clockout",
+        "m_clockout_hick_QLabel1 m_clockout_hick_RadioButton, no m_clockout_noclk_RadioButton, "
+        "clockout m_clockoutdiv1_ComboBox, m_clockoutdiv1_ComboBox m_clockoutdiv2_ComboBox, "
+        "m_clockoutdiv2_ComboBox m_clockoutpin_ComboBox, m_clockoutpin_ComboBox clockoutpad");
+    row("sources i2c1: m_i2c1_ switch result title",
+        "m_i2c1_pclk_QLabel m_i2c1_pclk_RadioButton, m_i2c1_hick_QLabel m_i2c1_hick_RadioButton, "
+        "i2c1 switch, switch result");
+    row("chain result ahb: x=270\nfan ahb: \"AHB\" apb\nchain ahb@y=apb apb",
+        "result -, - - up to 125, - - down to 219, - sdio, - xmc, - apb");
+    row("?sdio tag low: right x=270 y=132 \"low\"\n?!sdio chain switch apb\n?sdio ?!m_lost chain result low",
+        "result low");
+    row("clockout clockout9", "t.tree:1: the page has no radio buttons m_clockout9_...");
+    row("fan ahb: \"AHB\"", "t.tree:1: no wire ahb above this line stops free");
+}
+
+void TestTrees::joins()
+{
+    QFETCH(QString, tree);
+    PageLayout page = selectorPage();
+    Problems problems;
+    const Drawing drawing = buildDrawing(parseTree(tree, QStringLiteral("t.tree"), problems), page, problems);
+    QStringList joins;
+    const auto nameOf = [](const QString& name) { return name.isEmpty() ? QStringLiteral("-") : name; };
+    for (const Wire& wire : drawing.wires) {
+        const QString from = wire.end == WireEnd::Idle ? QStringLiteral("no") : nameOf(wire.from);
+        joins << from + QLatin1Char(' ') + nameOf(wire.to);
+        const double end = wire.points.last().y();
+        if (wire.width == weight::bar)
+            joins.last() += QLatin1String(end < wire.points.first().y() ? " up to %1" : " down to %1");
+        joins.last() = joins.last().contains(QLatin1Char('%')) ? joins.last().arg(int(end)) : joins.last();
+    }
+    for (const Problem& problem : problems)
+        joins << problem.text();
+    QTEST(joins.join(QStringLiteral(", ")), "joins");
 }
 
 void TestTrees::checks_data()
@@ -199,7 +280,58 @@ void TestTrees::checks_data()
 void TestTrees::checks()
 {
     QFETCH(QString, tree);
-    QTEST(problemsOf(tree), "told");
+    QTEST(problemsOf(tree, {samplePage()}), "told");
+}
+
+void TestTrees::pages_data()
+{
+    QTest::addColumn<QRectF>("place");
+    QTest::addColumn<bool>("hiddenSometimes");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("told");
+    const QRectF onRow(240, 70, 30, 25);
+    QTest::newRow("overlaps") << QRectF(20, 60, 60, 30) << false << ""
+                              << "t.tree: osc and oscNew overlap";
+    QTest::newRow("allowed") << QRectF(20, 60, 60, 30) << false << "allow oscNew osc"
+                             << "";
+    QTest::newRow("allowed for nothing") << QRectF(100, 200, 60, 30) << false << "allow oscNew osc"
+                                         << "t.tree:5: nothing needs this allowance of oscNew and osc";
+    QTest::newRow("too close to a label") << QRectF(62, 10, 60, 25) << false << ""
+                                          << "t.tree: oscName stands too close to oscNew";
+    QTest::newRow("out of the picture") << QRectF(380, 200, 60, 25) << false << ""
+                                        << "t.tree: oscNew reaches out of the picture";
+    QTest::newRow("off its middle") << QRectF(100, 200, 60, 30) << false << "wire oscNew.left-8 x=20 y=250"
+                                    << "t.tree:5: the wire meets oscNew off its middle";
+    QTest::newRow("a step in the row")
+        << QRectF(100, 200, 60, 30) << false
+        << "wire oscNew.left-2 x=20 y=250\nwire main@x=110 y=150 x=180 y=217 oscNew.right"
+        << "t.tree:5: the row steps by 4 at oscNew";
+    QTest::newRow("in the way of a state") << onRow << true << ""
+                                           << "t.tree:4: the wire crosses oscNew, while other";
+    QTest::newRow("in front of the wire") << onRow << true << "behind oscNew"
+                                          << "";
+    QTest::newRow("in front, off its middle") << onRow.translated(0, 6) << true << "behind oscNew"
+                                              << "t.tree:4: the wire crosses oscNew, while other";
+    QTest::newRow("nothing in front") << QRectF(100, 200, 60, 30) << true << "behind oscNew"
+                                      << "t.tree:4: the wire does not run behind oscNew, while other";
+    QTest::newRow("hidden end") << QRectF(100, 200, 60, 30) << true << "wire oscNew.left x=20 y=250"
+                                << "t.tree:5: the wire ends at oscNew, which is hidden, while first";
+}
+
+void TestTrees::pages()
+{
+    QFETCH(QRectF, place);
+    QFETCH(bool, hiddenSometimes);
+    QFETCH(QString, line);
+    std::vector<PageLayout> states{samplePage()};
+    if (hiddenSometimes)
+        states.push_back(samplePage());
+    states.back().controls.push_back({QStringLiteral("oscNew"), ControlKind::Field, place});
+    states.front().state = QStringLiteral("first");
+    states.back().state = QStringLiteral("other");
+    const bool behind = line.startsWith(QLatin1String("behind"));
+    const QString tree = behind ? sampleTree().trimmed() + QLatin1Char(' ') + line : sampleTree() + line;
+    QTEST(problemsOf(tree, states), "told");
 }
 
 QTEST_MAIN(TestTrees)

@@ -29,7 +29,69 @@ void tellFont()
         say(QStringLiteral("Arial is drawn as %1: install the Liberation fonts").arg(family));
 }
 
-int paint(const QString& series, const QString& tree, const QString& output, const QString& review)
+/// "G110PLL.bmp" -> "G110PLL@2x.bmp", the name that tells image readers of the pixel ratio.
+QString doubledName(const QString& output)
+{
+    const QFileInfo file(output);
+    return file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("@2x.") + file.suffix();
+}
+
+bool save(const QImage& picture, const QString& path)
+{
+    if (picture.save(path, "BMP"))
+        return true;
+    say(QStringLiteral("%1 cannot be written").arg(path));
+    return false;
+}
+
+/// A line for every control: what trees can name, and where it stands.
+void list(const std::vector<PageLayout>& states)
+{
+    for (const PageLayout& state : states) {
+        if (!state.state.isEmpty())
+            std::printf("%s\n", qPrintable(state.state));
+        for (const PlacedControl& control : state.controls) {
+            const QRectF& rect = control.rect;
+            std::printf("%-36s x %g to %g, y %g to %g, middle %g, %g %s\n", qPrintable(control.name),
+                        rect.left(), rect.right(), rect.top(), rect.bottom(), rect.center().x(),
+                        rect.center().y(), qPrintable(control.bus));
+        }
+    }
+}
+
+struct Task
+{
+    QString tree;
+    QString output;
+    QString review; ///< base of the pictures of the page; empty for none
+    bool places = false;
+};
+
+int paint(ClockTreePage& page, const Task& task)
+{
+    const std::vector<PageLayout> states = layoutsOf(page);
+    if (task.places)
+        list(states);
+    PageLayout all = together(states);
+    Problems problems;
+    const Drawing drawing = buildDrawing(readTree(task.tree, problems), all, problems);
+    checkDrawing(drawing, states, QFileInfo(task.tree).fileName(), problems);
+    for (const Problem& problem : problems)
+        say(problem.text());
+    const QImage picture = paintPicture(drawing, all.size);
+    const QImage doubled = paintPicture(drawing, all.size, 2);
+    if (!task.review.isEmpty() && !writeReview(page, picture, doubled, task.review)) {
+        say(QStringLiteral("%1 cannot be written").arg(task.review));
+        return 1;
+    }
+    if (!problems.empty()) {
+        tellFont();
+        return 1;
+    }
+    return save(picture, task.output) && save(doubled, doubledName(task.output)) ? 0 : 1;
+}
+
+int paintSeries(const QString& series, const Task& task)
 {
     const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + series);
     // The program's windows lend this sheet to their pages, and sheets change the sizes of controls.
@@ -41,26 +103,7 @@ int paint(const QString& series, const QString& tree, const QString& output, con
         return 1;
     }
     window.show();
-    PageLayout layout = layoutOf(*page);
-    Problems problems;
-    const Drawing drawing = buildDrawing(readTree(tree, problems), layout, problems);
-    checkDrawing(drawing, layout, QFileInfo(tree).fileName(), problems);
-    for (const Problem& problem : problems)
-        say(problem.text());
-    const QImage picture = paintPicture(drawing, layout.size);
-    if (!review.isEmpty() && !writeReview(*page, picture, review)) {
-        say(QStringLiteral("%1 cannot be written").arg(review));
-        return 1;
-    }
-    if (!problems.empty()) {
-        tellFont();
-        return 1;
-    }
-    if (!picture.save(output, "BMP")) {
-        say(QStringLiteral("%1 cannot be written").arg(output));
-        return 1;
-    }
-    return 0;
+    return paint(*page, task);
 }
 
 } // namespace
@@ -76,16 +119,19 @@ int main(int argc, char* argv[])
     arguments.addPositionalArgument(QStringLiteral("series"),
                                     QStringLiteral("The series word, such as G110."));
     arguments.addPositionalArgument(QStringLiteral("tree"), QStringLiteral("The text of the tree."));
-    arguments.addPositionalArgument(QStringLiteral("output"), QStringLiteral("The bitmap to write."));
+    arguments.addPositionalArgument(QStringLiteral("output"),
+                                    QStringLiteral("The bitmap to write, and beside it its @2x."));
     const QCommandLineOption review(
         QStringLiteral("review"),
         QStringLiteral("Also write the page with its picture to <base>-100.png and "
                        "<base>-200.png, even of a tree with faults."),
         QStringLiteral("base"));
-    arguments.addOption(review);
+    const QCommandLineOption places(QStringLiteral("places"),
+                                    QStringLiteral("Also list the page's controls with their places."));
+    arguments.addOptions({review, places});
     arguments.process(application);
     const QStringList files = arguments.positionalArguments();
     if (files.size() != 3)
         arguments.showHelp(1);
-    return paint(files[0], files[1], files[2], arguments.value(review));
+    return paintSeries(files[0], {files[1], files[2], arguments.value(review), arguments.isSet(places)});
 }
