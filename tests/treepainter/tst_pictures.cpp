@@ -21,6 +21,7 @@ class TestPictures : public QObject
 private slots:
     void fitTheirPages_data();
     void fitTheirPages();
+    void modes();
     void doubledPictures_data();
     void doubledPictures();
     void refusedTree();
@@ -94,6 +95,34 @@ void TestPictures::fitTheirPages()
             QVERIFY2(other.isEmpty(), qPrintable(control.name + QLatin1String(": ") + other));
         }
     }
+}
+
+/// A mode hides the multiplier and moves the PLL's label.
+void TestPictures::modes()
+{
+    const std::unique_ptr<ClockTreePage> page(createSeriesPage(ZN64G110, nullptr));
+    QGraphicsProxyWidget* multiplier =
+        ZN64MCUPLL::proxyOf(page->findChild<QWidget*>(QStringLiteral("m_pllmult_ComboBox")));
+    QGraphicsProxyWidget* label =
+        ZN64MCUPLL::proxyOf(page->findChild<QWidget*>(QStringLiteral("m_pllclk_Label")));
+    CustomComboBox1* modes = page->NewComboBoxInScenePos(500, 600, 80, 1);
+    modes->setObjectName(QStringLiteral("m_pllmode_ComboBox"));
+    modes->addItems({QStringLiteral("normal"), QStringLiteral("flexible")});
+    connect(modes, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [multiplier, label](int mode) {
+        multiplier->setVisible(mode == 0);
+        label->setX(650 + 5 * mode);
+    });
+    page->show();
+
+    const std::vector<PageLayout> states = layoutsOf(*page);
+    QCOMPARE(states.size(), size_t(2));
+    QCOMPARE(states[1].state, QStringLiteral("flexible"));
+    QVERIFY(states[0].find(QStringLiteral("m_pllmult_ComboBox")));
+    QVERIFY(!states[1].find(QStringLiteral("m_pllmult_ComboBox")));
+    QCOMPARE(states[1].find(QStringLiteral("m_pllclk_Label"))->rect.left(), 655.0);
+    QCOMPARE(states[0].controls.size(), states[1].controls.size() + 1);
+    QVERIFY(together(states).find(QStringLiteral("m_pllmult_ComboBox")));
+    QCOMPARE(modes->currentIndex(), 0);
 }
 
 void TestPictures::doubledPictures_data()

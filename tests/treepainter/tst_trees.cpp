@@ -159,6 +159,7 @@ void TestTrees::routes_data()
     row("chain y=75 out x=260", "300,75.5 260.5,75.5");
     row("chain osc x=100 out", "");
     row("chain osc a.in out", "");
+    row("chain osc x=100 behind out", "");
 }
 
 void TestTrees::routes()
@@ -186,12 +187,12 @@ void TestTrees::joins_data()
         QTest::newRow(tree) << QString::fromUtf8(tree) << QString::fromUtf8(joins);
     };
     row("clockout clockout",
-        "m_clockout_hick_QLabel1 m_clockout_hick_RadioButton, no m_clockout_noclk_RadioButton, "
         "clockout m_clockoutdiv1_ComboBox, m_clockoutdiv1_ComboBox m_clockoutdiv2_ComboBox, "
-        "m_clockoutdiv2_ComboBox m_clockoutpin_ComboBox, m_clockoutpin_ComboBox clockoutpad");
+        "m_clockoutdiv2_ComboBox m_clockoutpin_ComboBox, m_clockoutpin_ComboBox clockoutpad, "
+        "m_clockout_hick_QLabel1 m_clockout_hick_RadioButton, no m_clockout_noclk_RadioButton");
     row("sources i2c1: m_i2c1_ switch result title",
-        "m_i2c1_pclk_QLabel m_i2c1_pclk_RadioButton, m_i2c1_hick_QLabel m_i2c1_hick_RadioButton, "
-        "i2c1 switch, switch result");
+        "i2c1 switch, switch result, m_i2c1_pclk_QLabel m_i2c1_pclk_RadioButton, "
+        "m_i2c1_hick_QLabel m_i2c1_hick_RadioButton");
     row("chain result ahb: x=270\nfan ahb: \"AHB\" apb\nchain ahb@y=apb apb",
         "result -, - - up to 125, - - down to 219, - sdio, - xmc, - apb");
     row("?sdio tag low: right x=270 y=132 \"low\"\n?!sdio chain switch apb\n?sdio ?!m_lost chain result low",

@@ -102,12 +102,7 @@ std::vector<PlacedControl> snapshot(const ClockTreePage& page)
 /// The combo box of the PLL's modes; null on a page without.
 QComboBox* modesOf(const ClockTreePage& page)
 {
-    for (const QGraphicsItem* item : page.view()->scene()->items()) {
-        const QWidget* control = controlOf(item);
-        if (control && control->objectName() == QLatin1String("m_pllmode_ComboBox"))
-            return const_cast<QComboBox*>(qobject_cast<const QComboBox*>(control));
-    }
-    return nullptr;
+    return page.findChild<QComboBox*>(QStringLiteral("m_pllmode_ComboBox"));
 }
 
 bool same(const std::vector<PlacedControl>& some, const std::vector<PlacedControl>& others)

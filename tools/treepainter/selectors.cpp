@@ -44,8 +44,9 @@ QStringList TreeBuilder::radiosOf(const QString& stem) const
     return radios;
 }
 
-/// The label of a source has the stem of its radio button. Where there are two, the second shows a value.
-void TreeBuilder::addSource(const Statement& statement, const QString& radio)
+/// The label of a source has the stem of its radio button. Where there are two, the second shows a value. A
+/// source that stands about as high as the row behind the nose stands on it.
+void TreeBuilder::addSource(const Statement& statement, const QString& radio, double row)
 {
     const QString stem = radio.chopped(int(qstrlen("RadioButton")));
     const PlacedControl* label = m_page.find(stem + QLatin1String("QLabel1"));
@@ -55,45 +56,39 @@ void TreeBuilder::addSource(const Statement& statement, const QString& radio)
         throw TreeError(QStringLiteral("%1 has no label").arg(radio));
     const Mux* mux = m_drawing.mux(radio);
     const Anchor end = m_anchors.anchor(radio + QLatin1String(".in"));
-    Tag tag = tagAround(label->rect, mux->nose, end.level());
+    const double level = row >= end.low && row <= end.high ? row : end.level();
+    Tag tag = tagAround(label->rect, mux->nose, level);
     const PlacedControl* value = m_page.find(stem + QLatin1String("QLabel"));
     if (value && value != label && tag.tip == Side::Left && overlap(tag.rect, value->rect)) {
         tag.open = true;
         tag.rect.setRight(value->rect.left());
     }
     const bool idle = radio.contains(sourceOfNothing);
-    const Anchor start{
-        {mux->nose == Side::Left ? tag.rect.left() : tag.rect.right(), tag.level},
-        Qt::Horizontal,
-        tag.level,
-        tag.level,
-        label->name,
-        {                                                            }
-    };
     if (!idle) {
         tag.source = statement.source;
         tag.label = label->name;
         m_drawing.tags.push_back(tag);
     }
-    Wire& wire = append(statement, {}, route(start, {}, end), start, end);
+    Anchor start;
+    start.point = {mux->nose == Side::Left ? tag.rect.left() : tag.rect.right(), level};
+    start.owner = label->name;
+    Wire& wire = append(statement, {}, QVector<QPointF>{start.point, end.at(level)}, start, end);
     wire.end = idle ? WireEnd::Idle : WireEnd::Arrow;
 }
 
-void TreeBuilder::addSelector(const Statement& statement, const QString& name, const QStringList& radios,
-                              const QString& title, Side nose)
+void TreeBuilder::addSelector(const Statement& statement, Mux mux, const QStringList& fields)
 {
-    claimName(name);
-    placeMux({statement.source, name, nose, {}, {}, radios, title});
-    for (const QString& radio : radios)
-        addSource(statement, radio);
-}
-
-void TreeBuilder::joinSelector(const Statement& statement, const QString& name, const QStringList& fields)
-{
-    Statement chain{statement.source, QStringLiteral("chain"), {}, {{name + QLatin1String(".nose"), false}}};
+    claimName(mux.name);
+    mux.source = statement.source;
+    placeMux(mux);
+    Statement row{
+        statement.source, QStringLiteral("chain"), {}, {{mux.name + QLatin1String(".nose"), false}}};
     for (const QString& field : fields)
-        chain.words.append({field, false});
-    addChain(chain);
+        row.words.append({field, false});
+    const Chain chain = chainOf(row, m_anchors);
+    joinInRow(chain, row);
+    for (const QString& radio : mux.radios)
+        addSource(statement, radio, chain.row);
 }
 
 void TreeBuilder::addClockOutput(const Statement& statement)
@@ -102,9 +97,9 @@ void TreeBuilder::addClockOutput(const Statement& statement)
     const QString stem = statement.words.first().text;
     const QString controls = QLatin1String("m_") + stem;
     const QString title = controls + QLatin1String("_QLabel");
-    addSelector(statement, stem, radiosOf(controls + QLatin1Char('_')),
-                m_page.find(title) ? title : QString(), Side::Left);
-
+    Mux mux{{}, stem, Side::Left, {}, {}, radiosOf(controls + QLatin1Char('_'))};
+    if (m_page.find(title))
+        mux.title = title;
     const QRegularExpression divider(QStringLiteral("^%1div\\d?_ComboBox$").arg(controls));
     std::vector<const PlacedControl*> steps{&control(controls + QLatin1String("pin_ComboBox"))};
     for (const PlacedControl& each : m_page.controls) {
@@ -120,26 +115,25 @@ void TreeBuilder::addClockOutput(const Statement& statement)
     const QString pad = stem + QLatin1String("pad");
     m_drawing.pads.push_back(
         {statement.source, pad, padAround({onPixel(padColumn), onPixel(steps.back()->rect.center().y())})});
-    joinSelector(statement, stem, fields << pad);
+    addSelector(statement, mux, fields << pad);
 }
 
 void TreeBuilder::addSources(const Statement& statement)
 {
     if (statement.words.size() < 2)
         throw TreeError(QStringLiteral("sources takes the stem of radio buttons and the fields behind them"));
-    const QStringList radios = radiosOf(statement.words.first().text);
-    QString title;
+    Mux mux{{}, statement.name, Side::Right, {}, {}, radiosOf(statement.words.first().text)};
     QStringList fields;
     for (const Word& word : statement.words.mid(1)) {
         const PlacedControl* placed = m_page.find(word.text);
         if (placed && placed->kind == ControlKind::Label)
-            title = word.text;
+            mux.title = word.text;
         else
             fields << word.text;
     }
     if (fields.isEmpty())
         throw TreeError(QStringLiteral("sources needs a field behind the radio buttons"));
-    const bool leftward = m_anchors.rectOf(fields.first()).center().x() < control(radios.first()).rect.left();
-    addSelector(statement, statement.name, radios, title, leftward ? Side::Left : Side::Right);
-    joinSelector(statement, statement.name, fields);
+    if (m_anchors.rectOf(fields.first()).center().x() < control(mux.radios.first()).rect.left())
+        mux.nose = Side::Left;
+    addSelector(statement, mux, fields);
 }

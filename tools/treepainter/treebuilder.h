@@ -48,15 +48,14 @@ private:
     Wire& append(const Statement& statement, const QString& name, const QPolygonF& points,
                  const Anchor& start, const std::optional<Anchor>& end);
     void joinInRow(const Chain& chain, const Statement& statement);
+    QStringList coversOf(const Wire& wire, const QStringList& fields) const;
     /// Pulls a bus bar from the end of a wire up and down to the rows, and past them.
     void addBar(const Statement& statement, const Wire& trunk, const QVector<double>& rows);
 
-    /// A multiplexer around radio buttons, with a flag for the name of every source.
-    void addSelector(const Statement& statement, const QString& name, const QStringList& radios,
-                     const QString& title, Side nose);
-    void addSource(const Statement& statement, const QString& radio);
-    /// Joins the nose of a selector to fields and figures on one row.
-    void joinSelector(const Statement& statement, const QString& name, const QStringList& fields);
+    /// A multiplexer with its nose joined to fields and figures on one row, and a flag for the name of every
+    /// source.
+    void addSelector(const Statement& statement, Mux mux, const QStringList& fields);
+    void addSource(const Statement& statement, const QString& radio, double row);
     QStringList radiosOf(const QString& stem) const;
 
     PageLayout& m_page;

@@ -1,6 +1,8 @@
 #include "builder.h"
 #include "treebuilder.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 
@@ -56,6 +58,19 @@ void TreeBuilder::addWire(const Statement& statement)
         wire.end = WireEnd::Idle;
 }
 
+/// Those of the fields that stand between the ends of a wire.
+QStringList TreeBuilder::coversOf(const Wire& wire, const QStringList& fields) const
+{
+    const QRectF way = wire.points.boundingRect();
+    QStringList covers;
+    for (const QString& field : fields) {
+        const double x = m_anchors.rectOf(field).center().x();
+        if (x > way.left() && x < way.right())
+            covers << field;
+    }
+    return covers;
+}
+
 void TreeBuilder::addChain(const Statement& statement)
 {
     joinInRow(chainOf(statement, m_anchors), statement);
@@ -70,6 +85,7 @@ void TreeBuilder::joinInRow(const Chain& chain, const Statement& statement)
             throw TreeError(QStringLiteral("the row y=%1 misses %2").arg(chain.row).arg(anchor.owner));
         return anchor.at(chain.row);
     };
+    QSet<QString> uncovered(chain.behind.begin(), chain.behind.end());
     for (int i = 1; i < chain.links.size(); ++i) {
         const std::optional<Anchor>& start = chain.links[i - 1].out;
         const std::optional<Anchor>& end = chain.links[i].in;
@@ -81,8 +97,11 @@ void TreeBuilder::joinInRow(const Chain& chain, const Statement& statement)
         Wire& wire =
             append(statement, chain.links[i].wire, QVector<QPointF>{onRow(*start), onRow(*end)}, *start, end);
         wire.width = statement.keyword == QLatin1String("spine") ? weight::spine : weight::branch;
-        wire.behind = chain.behind;
+        wire.behind = coversOf(wire, chain.behind);
+        uncovered -= QSet<QString>(wire.behind.begin(), wire.behind.end());
     }
+    if (!uncovered.isEmpty())
+        throw TreeError(QStringLiteral("no wire of the row passes %1").arg(*uncovered.begin()));
 }
 
 void TreeBuilder::addBar(const Statement& statement, const Wire& trunk, const QVector<double>& rows)
