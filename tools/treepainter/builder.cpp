@@ -32,7 +32,6 @@ const QHash<QString, TreeBuilder::Handler>& TreeBuilder::handlers()
         {QStringLiteral("region"),   &TreeBuilder::addText       },
         {QStringLiteral("crystal"),  &TreeBuilder::addCrystal    },
         {QStringLiteral("wire"),     &TreeBuilder::addWire       },
-        {QStringLiteral("idle"),     &TreeBuilder::addWire       },
         {QStringLiteral("chain"),    &TreeBuilder::addChain      },
         {QStringLiteral("spine"),    &TreeBuilder::addChain      },
         {QStringLiteral("fan"),      &TreeBuilder::addFan        },

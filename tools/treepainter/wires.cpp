@@ -34,7 +34,7 @@ Wire& TreeBuilder::append(const Statement& statement, const QString& name, const
 void TreeBuilder::addWire(const Statement& statement)
 {
     if (statement.words.size() < 2)
-        throw TreeError(QStringLiteral("%1 takes a start and an end").arg(statement.keyword));
+        throw TreeError(QStringLiteral("wire takes a start and an end"));
     const Anchor start = m_anchors.anchor(statement.words.first().text);
     QVector<Bend> bends;
     std::optional<Anchor> end;
@@ -52,10 +52,7 @@ void TreeBuilder::addWire(const Statement& statement)
         else
             end = m_anchors.anchor(word->text);
     }
-    Wire& wire = append(statement, statement.name, route(start, bends, end), start, end);
-    wire.behind = behind;
-    if (statement.keyword == QLatin1String("idle"))
-        wire.end = WireEnd::Idle;
+    append(statement, statement.name, route(start, bends, end), start, end).behind = behind;
 }
 
 /// Those of the fields that stand between the ends of a wire.
