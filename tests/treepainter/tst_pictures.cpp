@@ -1,8 +1,12 @@
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
+#include "treepainter/builder.h"
 #include "treepainter/pagelayout.h"
 #include "treepainter/picture.h"
 
+#include <QApplication>
+#include <QGraphicsPixmapItem>
+#include <QGraphicsView>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -17,6 +21,9 @@ class TestPictures : public QObject
 private slots:
     void fitTheirPages_data();
     void fitTheirPages();
+    void modes();
+    void doubledPictures_data();
+    void doubledPictures();
     void refusedTree();
 };
 
@@ -37,15 +44,32 @@ QString otherPixel(const QImage& picture, const QRectF& rect, QRgb color)
     return {};
 }
 
-} // namespace
-
-void TestPictures::fitTheirPages_data()
+void eachPage()
 {
     QTest::addColumn<ZN64MCUSERIALS>("series");
     for (const SeriesTraits& traits : seriesList()) {
         if (hasSeriesPage(traits.series))
             QTest::newRow(traits.word) << traits.series;
     }
+}
+
+/// The fields of a page in front of wires.
+QStringList covers(const PageDescription& description, PageLayout& page)
+{
+    const QString name = QLatin1String(description.picture);
+    Problems problems;
+    const QString tree = QLatin1String(TREES "/") + name.chopped(7) + QLatin1String(".tree");
+    QStringList fields;
+    for (const Wire& wire : buildDrawing(readTree(tree, problems), page, problems).wires)
+        fields += wire.behind;
+    return fields;
+}
+
+} // namespace
+
+void TestPictures::fitTheirPages_data()
+{
+    eachPage();
 }
 
 void TestPictures::fitTheirPages()
@@ -58,13 +82,77 @@ void TestPictures::fitTheirPages()
     QCOMPARE(picture.size(), description.pictureSize);
     QCOMPARE(picture.depth(), 8);
 
-    const PageLayout layout = layoutOf(*page);
-    QVERIFY(!layout.controls.empty());
-    for (const PlacedControl& control : layout.controls) {
-        const bool radio = control.kind == ControlKind::Radio;
-        const QString other = otherPixel(picture, control.rect, radio ? muxGround : qRgb(255, 255, 255));
-        QVERIFY2(other.isEmpty(), qPrintable(control.name + QLatin1String(": ") + other));
+    const std::vector<PageLayout> states = layoutsOf(*page);
+    PageLayout all = together(states);
+    const QStringList inFront = covers(description, all);
+    for (const PageLayout& state : states) {
+        QVERIFY(!state.controls.empty());
+        for (const PlacedControl& control : state.controls) {
+            if (inFront.contains(control.name))
+                continue;
+            const bool radio = control.kind == ControlKind::Radio;
+            const QString other = otherPixel(picture, control.rect, radio ? muxGround : qRgb(255, 255, 255));
+            QVERIFY2(other.isEmpty(), qPrintable(control.name + QLatin1String(": ") + other));
+        }
     }
+}
+
+/// A mode hides the multiplier and moves the PLL's label.
+void TestPictures::modes()
+{
+    const std::unique_ptr<ClockTreePage> page(createSeriesPage(ZN64G110, nullptr));
+    QGraphicsProxyWidget* multiplier =
+        ZN64MCUPLL::proxyOf(page->findChild<QWidget*>(QStringLiteral("m_pllmult_ComboBox")));
+    QGraphicsProxyWidget* label =
+        ZN64MCUPLL::proxyOf(page->findChild<QWidget*>(QStringLiteral("m_pllclk_Label")));
+    CustomComboBox1* modes = page->NewComboBoxInScenePos(500, 600, 80, 1);
+    modes->setObjectName(QStringLiteral("m_pllmode_ComboBox"));
+    modes->addItems({QStringLiteral("normal"), QStringLiteral("flexible")});
+    connect(modes, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [multiplier, label](int mode) {
+        multiplier->setVisible(mode == 0);
+        label->setX(650 + 5 * mode);
+    });
+    page->show();
+
+    const std::vector<PageLayout> states = layoutsOf(*page);
+    QCOMPARE(states.size(), size_t(2));
+    QCOMPARE(states[1].state, QStringLiteral("flexible"));
+    QVERIFY(states[0].find(QStringLiteral("m_pllmult_ComboBox")));
+    QVERIFY(!states[1].find(QStringLiteral("m_pllmult_ComboBox")));
+    QCOMPARE(states[1].find(QStringLiteral("m_pllclk_Label"))->rect.left(), 655.0);
+    QCOMPARE(states[0].controls.size(), states[1].controls.size() + 1);
+    QVERIFY(together(states).find(QStringLiteral("m_pllmult_ComboBox")));
+    QCOMPARE(modes->currentIndex(), 0);
+}
+
+void TestPictures::doubledPictures_data()
+{
+    eachPage();
+}
+
+/// At a scale of 2 each pixel of the picture of twice the pixels is one pixel of the screen.
+void TestPictures::doubledPictures()
+{
+    QFETCH(ZN64MCUSERIALS, series);
+    const std::unique_ptr<ClockTreePage> page(createSeriesPage(series, nullptr));
+    const QString name = QLatin1String(":/image/") + QLatin1String(page->description().picture);
+    const QPixmap picture(name.chopped(4) + QLatin1String("@2x.bmp"));
+    QCOMPARE(qApp->devicePixelRatio(), 2.0);
+    QCOMPARE(QImage(name.chopped(4) + QLatin1String("@2x.bmp")).depth(), 8);
+
+    QGraphicsScene scene;
+    const QGraphicsPixmapItem* item = scene.addPixmap(picture);
+    QCOMPARE(item->boundingRect().size().toSize(), page->description().pictureSize);
+    QGraphicsView view(&scene);
+    view.setFrameShape(QFrame::NoFrame);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setFixedSize(page->description().pictureSize);
+    view.show();
+    const QImage seen = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage meant = picture.toImage().convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(seen.size(), meant.size());
+    QVERIFY(seen == meant);
 }
 
 void TestPictures::refusedTree()
@@ -87,5 +175,13 @@ void TestPictures::refusedTree()
     QVERIFY(!QFile::exists(bitmap));
 }
 
-QTEST_MAIN(TestPictures)
+int main(int argc, char* argv[])
+{
+    // A screen of twice the pixels, which shows both pictures at their logical size.
+    qputenv("QT_SCALE_FACTOR", "2");
+    QApplication application(argc, argv);
+    TestPictures test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_pictures.moc"

@@ -17,11 +17,40 @@ PageLayout samplePage()
         return page.controls.back();
     };
     add("osc", ControlKind::Field, {20, 40, 60, 30});
-    add("oscName", ControlKind::Label, {20, 20, 40, 15});
+    add("m_osc_Label", ControlKind::Label, {20, 20, 40, 15});
     add("a", ControlKind::Radio, {200, 50, 12, 12});
     add("b", ControlKind::Radio, {200, 100, 12, 12});
-    add("out", ControlKind::Field, {300, 70, 60, 25}).output = true;
+    add("out", ControlKind::Field, {300, 70, 60, 25}).bus = QStringLiteral("ahb");
     add("value", ControlKind::Label, {250, 250, 9, 15}).empty = true;
+    return page;
+}
+
+/// The outline of a page with a clock output, a peripheral's selector and a bus.
+PageLayout selectorPage()
+{
+    PageLayout page{QSize(400, 300), {}};
+    const auto add = [&page](const char* name, ControlKind kind, const QRectF& rect, const char* bus = "") {
+        page.controls.push_back({QString::fromLatin1(name), kind, rect});
+        page.controls.back().bus = QString::fromLatin1(bus);
+    };
+    add("m_clockout_hick_RadioButton", ControlKind::Radio, {240, 20, 12, 12});
+    add("m_clockout_hick_QLabel1", ControlKind::Label, {300, 18, 26, 16});
+    add("m_clockout_hick_QLabel", ControlKind::Label, {330, 18, 26, 16});
+    add("m_clockout_noclk_RadioButton", ControlKind::Radio, {240, 50, 12, 12});
+    add("m_clockout_noclk_QLabel1", ControlKind::Label, {300, 48, 26, 16});
+    add("m_clockoutpin_ComboBox", ControlKind::Field, {90, 28, 40, 25});
+    add("m_clockoutdiv2_ComboBox", ControlKind::Field, {150, 28, 20, 25});
+    add("m_clockoutdiv1_ComboBox", ControlKind::Field, {190, 28, 20, 25});
+    add("m_i2c1_pclk_QLabel", ControlKind::Label, {10, 120, 26, 16});
+    add("m_i2c1_pclk_RadioButton", ControlKind::Radio, {70, 122, 12, 12});
+    add("m_i2c1_hick_QLabel", ControlKind::Label, {10, 137, 26, 16});
+    add("m_i2c1_hick_RadioButton", ControlKind::Radio, {70, 139, 12, 12});
+    add("title", ControlKind::Label, {60, 90, 30, 16});
+    add("switch", ControlKind::Field, {120, 132, 40, 25});
+    add("result", ControlKind::Field, {200, 132, 40, 25});
+    add("sdio", ControlKind::Field, {300, 120, 40, 25}, "ahb");
+    add("xmc", ControlKind::Field, {300, 160, 40, 25}, "ahb");
+    add("apb", ControlKind::Field, {300, 200, 40, 25}, "apb1");
     return page;
 }
 
@@ -34,13 +63,13 @@ QString sampleTree()
                           "wire sel.nose out.left\n");
 }
 
-/// What the painter tells of a tree of the sample page, a line each.
-QString problemsOf(const QString& text)
+/// What the painter tells of a tree of a page with these states, a line each.
+QString problemsOf(const QString& text, const std::vector<PageLayout>& states)
 {
-    PageLayout page = samplePage();
+    PageLayout page = together(states);
     Problems problems;
     const Drawing drawing = buildDrawing(parseTree(text, QStringLiteral("t.tree"), problems), page, problems);
-    checkDrawing(drawing, page, QStringLiteral("t.tree"), problems);
+    checkDrawing(drawing, states, QStringLiteral("t.tree"), problems);
     QStringList lines;
     for (const Problem& problem : problems)
         lines << problem.text();
@@ -59,8 +88,12 @@ private slots:
     void includes();
     void routes_data();
     void routes();
+    void joins_data();
+    void joins();
     void checks_data();
     void checks();
+    void pages_data();
+    void pages();
 };
 
 void TestTrees::includes_data()
@@ -72,6 +105,9 @@ void TestTrees::includes_data()
     QTest::newRow("in its place") << "one\ninclude part.tree\nthree"
                                   << "# part\ntwo"
                                   << "main.tree:1 one, part.tree:2 two, main.tree:3 three" << QString();
+    QTest::newRow("with its condition") << "?a include part.tree"
+                                        << "?!b two"
+                                        << "part.tree:1 ?a ?!b two" << QString();
     QTest::newRow("without end") << "include part.tree"
                                  << "include part.tree" << QString()
                                  << "part.tree:1: include takes one file, and no file itself again";
@@ -96,11 +132,12 @@ void TestTrees::includes()
     QVERIFY(write("part.tree", part));
     Problems problems;
     QStringList read;
-    for (const Statement& statement : readTree(folder.filePath(QStringLiteral("main.tree")), problems))
-        read << QStringLiteral("%1:%2 %3")
-                    .arg(statement.source.file)
-                    .arg(statement.source.number)
-                    .arg(statement.keyword);
+    for (const Statement& statement : readTree(folder.filePath(QStringLiteral("main.tree")), problems)) {
+        read << QStringLiteral("%1:%2 ").arg(statement.source.file).arg(statement.source.number);
+        for (const QString& condition : statement.conditions)
+            read.last() += QLatin1Char('?') + condition + QLatin1Char(' ');
+        read.last() += statement.keyword;
+    }
     QCOMPARE(read.join(QStringLiteral(", ")), statements);
     QCOMPARE(problems.empty() ? QString() : problems.front().text(), told);
     QVERIFY(problems.size() <= 1);
@@ -113,7 +150,7 @@ void TestTrees::routes_data()
     const auto row = [](const char* wire, const char* points) {
         QTest::newRow(wire) << QString::fromUtf8(wire) << QString::fromUtf8(points);
     };
-    row("wire osc.right a.in", "80,56.5 193,56.5");
+    row("wire osc.right a.in", "80,55.5 193,55.5");
     row("wire osc.right+8 x=130 a.in", "80,63.5 130.5,63.5 130.5,56.5 193,56.5");
     row("wire osc.right x=100 b.in", "80,55.5 100.5,55.5 100.5,106.5 193,106.5");
     row("wire sel.nose out.left-10", "223,72.5 300,72.5");
@@ -121,6 +158,12 @@ void TestTrees::routes_data()
     row("wire sel.nose x=260 out.bottom", "");
     row("wire osc.right x=osc.right+20 y=osc-30", "80,55.5 100.5,55.5 100.5,25.5");
     row("wire out.right value.right+2", "");
+    row("chain osc a.in sel.nose x=260", "80,55.5 193,55.5 223,55.5 260.5,55.5");
+    row("chain y=57 out x=260", "");
+    row("chain y=75 out x=260", "300,75.5 260.5,75.5");
+    row("chain osc x=100 out", "");
+    row("chain osc a.in out", "");
+    row("chain osc x=100 behind out", "");
 }
 
 void TestTrees::routes()
@@ -140,6 +183,53 @@ void TestTrees::routes()
     QCOMPARE(problems.empty(), !points.isEmpty());
 }
 
+void TestTrees::joins_data()
+{
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QString>("joins");
+    const auto row = [](const char* tree, const char* joins) {
+        QTest::newRow(tree) << QString::fromUtf8(tree) << QString::fromUtf8(joins);
+    };
+    row("clockout clockout",
+        "clockout m_clockoutdiv1_ComboBox 40, m_clockoutdiv1_ComboBox m_clockoutdiv2_ComboBox 40, "
+        "m_clockoutdiv2_ComboBox m_clockoutpin_ComboBox 40, m_clockoutpin_ComboBox clockoutpad 40, "
+        "m_clockout_hick_QLabel1 m_clockout_hick_RadioButton 26, no m_clockout_noclk_RadioButton 56");
+    row("sources i2c1: m_i2c1_ switch result title\nwire switch.top y=i2c1.top",
+        "i2c1 switch 144, switch result 144, m_i2c1_pclk_QLabel m_i2c1_pclk_RadioButton 128, "
+        "m_i2c1_hick_QLabel m_i2c1_hick_RadioButton 144, switch - 132 to 110");
+    row("chain result ahb: x=270\nfan ahb: \"AHB\" apb\nchain ahb@y=apb apb",
+        "result - 144, - - 144 to 125, - - 144 to 219, - sdio 132, - xmc 172, - apb 212");
+    row("spine switch result x=380 behind sdio", "switch result 138, result - 138 behind sdio");
+    row("?sdio tag low: right x=270 y=144 \"low\"\n?!sdio chain switch apb\n?sdio ?!m_lost chain result low",
+        "result low 144");
+    row("clockout clockout9", "t.tree:1: the page has no radio buttons m_clockout9_...");
+    row("fan ahb: \"AHB\"", "t.tree:1: no wire ahb above this line stops free");
+}
+
+void TestTrees::joins()
+{
+    QFETCH(QString, tree);
+    PageLayout page = selectorPage();
+    Problems problems;
+    const Drawing drawing = buildDrawing(parseTree(tree, QStringLiteral("t.tree"), problems), page, problems);
+    QStringList joins;
+    const auto nameOf = [](const QString& name) { return name.isEmpty() ? QStringLiteral("-") : name; };
+    for (const Wire& wire : drawing.wires) {
+        const QString from = wire.end == WireEnd::Idle ? QStringLiteral("no") : nameOf(wire.from);
+        joins << from + QLatin1Char(' ') + nameOf(wire.to);
+        const int start = int(wire.points.first().y());
+        const int end = int(wire.points.last().y());
+        joins.last() += QStringLiteral(" %1").arg(start);
+        if (end != start)
+            joins.last() += QStringLiteral(" to %1").arg(end);
+        if (!wire.behind.isEmpty())
+            joins.last() += QLatin1String(" behind ") + wire.behind.join(QLatin1Char(' '));
+    }
+    for (const Problem& problem : problems)
+        joins << problem.text();
+    QTEST(joins.join(QStringLiteral(", ")), "joins");
+}
+
 void TestTrees::checks_data()
 {
     QTest::addColumn<QString>("tree");
@@ -153,18 +243,19 @@ void TestTrees::checks_data()
     row("a shorter value needs less room",
         "room value \"1\"\nbox low: x=300 y=200 \"/2\"\nwire low.bottom y=280");
     row("two branches at one point", "wire main@x=160 y=20\nwire main@x=160 y=90");
+    row("a crossing that the tree allows", "allow over out\nwire over: main@x=120 y=20 x=330 y=120");
     row("a text, a pin, a comment and a defined place",
         "text x=350 y=200 \"# 1\" # beside it\npad pin: x=300 y=200\n\n"
         "let here x=osc.right+30\nwire main@x=here y=250");
 
     row("through a control", "wire main@x=120 y=20 x=330 y=120", "t.tree:5: the wire crosses out");
-    row("over a label", "wire osc.top y=5", "t.tree:5: the wire crosses oscName");
-    row("close below a label", "wire osc.left x=10 y=36 x=100 y=5", "t.tree:5: the wire crosses oscName");
+    row("over a label", "wire osc.top y=5", "t.tree:5: the wire crosses m_osc_Label");
+    row("close below a label", "wire osc.left x=10 y=36 x=100 y=5", "t.tree:5: the wire crosses m_osc_Label");
     row("through the room of a value", "box low: x=300 y=200 \"/2\"\nwire low.bottom y=280",
         "t.tree:6: the wire crosses value");
     row("through a multiplexer", "box low: x=30 y=120 \"/2\"\nwire low.right x=280",
         "t.tree:6: the wire crosses mux sel");
-    row("a box on a label", "box big: x=30 y=22 \"/2\"", "t.tree:5: box big crosses oscName");
+    row("a box on a label", "box big: x=30 y=22 \"/2\"", "t.tree:5: box big crosses m_osc_Label");
     row("a text on a wire", "text x=100 y=55 \"clock\"", "t.tree:2: the wire crosses text clock");
     row("out of the picture", "wire main@x=120 y=-20", "t.tree:5: the wire reaches out of the picture");
     row("diagonal", "wire osc.right b.in",
@@ -186,7 +277,7 @@ void TestTrees::checks_data()
     row("two bends in a row", "wire osc.bottom y=90 y=120",
         "t.tree:5: two bends in a row along the same axis");
     row("open quote", "text x=30 y=250 \"clock", "t.tree:5: the text has no closing quote");
-    row("crystal without room", "crystal osc oscName oscName",
+    row("crystal without room", "crystal osc m_osc_Label m_osc_Label",
         "t.tree:5: there is no room for a crystal at osc");
 
     QTest::newRow("no multiplexer") << "wire osc.bottom y=150 x=280 y=83 out.left"
@@ -199,7 +290,82 @@ void TestTrees::checks_data()
 void TestTrees::checks()
 {
     QFETCH(QString, tree);
-    QTEST(problemsOf(tree), "told");
+    QTEST(problemsOf(tree, {samplePage()}), "told");
+}
+
+void TestTrees::pages_data()
+{
+    QTest::addColumn<QRectF>("place");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("told");
+    const QRectF onRow(240, 70, 30, 25);
+    QTest::newRow("overlaps") << QRectF(20, 60, 60, 30) << "same"
+                              << ""
+                              << "t.tree: osc and m_other_ComboBox overlap";
+    QTest::newRow("allowed") << QRectF(20, 60, 60, 30) << "same"
+                             << "allow m_other_ComboBox osc"
+                             << "";
+    QTest::newRow("allowed for nothing")
+        << QRectF(100, 200, 60, 30) << "same"
+        << "allow m_other_ComboBox osc"
+        << "t.tree:5: nothing needs this allowance of m_other_ComboBox and osc";
+    QTest::newRow("too close to a label") << QRectF(62, 10, 60, 25) << "same"
+                                          << ""
+                                          << "t.tree: m_osc_Label stands too close to m_other_ComboBox";
+    QTest::newRow("out of the picture") << QRectF(380, 200, 60, 25) << "same"
+                                        << ""
+                                        << "t.tree: m_other_ComboBox reaches out of the picture";
+    QTest::newRow("off its middle") << QRectF(100, 200, 60, 30) << "same"
+                                    << "wire m_other_ComboBox.left-8 x=20 y=250"
+                                    << "t.tree:5: the wire meets m_other_ComboBox off its middle";
+    QTest::newRow("a step in the row")
+        << QRectF(100, 200, 60, 30) << "same"
+        << "wire m_other_ComboBox.left-2 x=20 y=250\nwire main@x=110 y=150 x=180 y=217 m_other_ComboBox.right"
+        << "t.tree:5: the row steps by 4 at m_other_ComboBox";
+    QTest::newRow("allowed off its middle")
+        << QRectF(100, 200, 60, 30) << "same"
+        << "allow middle m_other_ComboBox\nwire m_other_ComboBox.left-8 x=20 y=250"
+        << "";
+    QTest::newRow("in the way of a state") << onRow << "hides it"
+                                           << ""
+                                           << "t.tree:4: the wire crosses m_other_ComboBox, while other";
+    QTest::newRow("in front of the wire") << onRow << "hides it"
+                                          << "behind m_other_ComboBox"
+                                          << "";
+    QTest::newRow("in front, off its middle") << onRow.translated(0, 6) << "hides it"
+                                              << "behind m_other_ComboBox"
+                                              << "t.tree:4: the wire crosses m_other_ComboBox, while other";
+    QTest::newRow("nothing in front")
+        << QRectF(100, 200, 60, 30) << "hides it"
+        << "behind m_other_ComboBox"
+        << "t.tree:4: the wire does not run behind m_other_ComboBox, while other";
+    QTest::newRow("hidden end")
+        << QRectF(100, 200, 60, 30) << "hides it"
+        << "wire m_other_ComboBox.left x=20 y=250"
+        << "t.tree:5: the wire ends at m_other_ComboBox, which is hidden, while first";
+    QTest::newRow("moved end") << QRectF(100, 200, 60, 30) << "moves it"
+                               << "wire m_other_ComboBox.left x=20 y=280"
+                               << "t.tree:5: the wire does not reach m_other_ComboBox, while other";
+}
+
+void TestTrees::pages()
+{
+    QFETCH(QRectF, place);
+    QFETCH(QString, first);
+    QFETCH(QString, line);
+    std::vector<PageLayout> states{samplePage()};
+    if (first != QLatin1String("same"))
+        states.push_back(samplePage());
+    states.back().controls.push_back({QStringLiteral("m_other_ComboBox"), ControlKind::Field, place});
+    if (first == QLatin1String("moves it"))
+        states.front().controls.push_back(
+            {QStringLiteral("m_other_ComboBox"), ControlKind::Field, place.translated(0, 30)});
+    states.front().state = QStringLiteral("first");
+    states.back().state = QStringLiteral("other");
+    const bool behind = line.startsWith(QLatin1String("behind"));
+    const QString tree = behind ? sampleTree().trimmed() + QLatin1Char(' ') + line : sampleTree() + line;
+    QTEST(problemsOf(tree, states), "told");
 }
 
 QTEST_MAIN(TestTrees)

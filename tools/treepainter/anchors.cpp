@@ -3,12 +3,20 @@
 #include <QRegularExpression>
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
 // A wire keeps away from the corners of what it joins and from the letters of a label.
 constexpr double cornerRoom = 3;
 constexpr double labelRoom = 4;
+// A wire that comes straight from afar may meet a radio button this far off its middle.
+constexpr double radioRoom = 2;
+// A dot reaches beyond the wire that it stands on.
+constexpr double dotRoom = 2;
+
+constexpr int fieldPull = 2;
+constexpr int radioPull = 1;
 
 const QHash<QString, Side>& sides()
 {
@@ -19,20 +27,6 @@ const QHash<QString, Side>& sides()
         {QStringLiteral("bottom"), Side::Bottom}
     };
     return names;
-}
-
-Side opposite(Side side)
-{
-    switch (side) {
-    case Side::Left:
-        return Side::Right;
-    case Side::Right:
-        return Side::Left;
-    case Side::Top:
-        return Side::Bottom;
-    default:
-        return Side::Top;
-    }
 }
 
 bool isUpright(Side side)
@@ -69,9 +63,20 @@ Anchor onSide(const QRectF& rect, Side side, double low, double high, const QStr
     };
 }
 
+double dotOn(const Wire& wire)
+{
+    return wire.width < weight::bar ? dotRoom + wire.width / 2 : 0;
+}
+
 bool within(double value, double one, double other)
 {
     return value >= std::min(one, other) && value <= std::max(one, other);
+}
+
+bool onSegment(const QPointF& point, const Segment& segment)
+{
+    return within(point.x(), segment.from.x(), segment.to.x()) &&
+           within(point.y(), segment.from.y(), segment.to.y());
 }
 
 } // namespace
@@ -79,6 +84,40 @@ bool within(double value, double one, double other)
 double onPixel(double level)
 {
     return std::floor(level) + 0.5;
+}
+
+Side opposite(Side side)
+{
+    switch (side) {
+    case Side::Left:
+        return Side::Right;
+    case Side::Right:
+        return Side::Left;
+    case Side::Top:
+        return Side::Bottom;
+    default:
+        return Side::Top;
+    }
+}
+
+double commonLevel(const QVector<Anchor>& ends)
+{
+    int pull = 0;
+    for (const Anchor& end : ends)
+        pull = std::max(pull, end.pull);
+    double least = std::numeric_limits<double>::max();
+    double most = std::numeric_limits<double>::lowest();
+    double low = most;
+    double high = least;
+    for (const Anchor& end : ends) {
+        low = std::max(low, end.low);
+        high = std::min(high, end.high);
+        if (end.pull < pull)
+            continue;
+        least = std::min(least, end.level());
+        most = std::max(most, end.level());
+    }
+    return std::max(low, std::min(high, onPixel((least + most) / 2)));
 }
 
 QPointF Anchor::at(double level) const
@@ -129,8 +168,11 @@ Anchor Anchors::side(const QString& owner, Side side, double offset) const
     const QRectF rect = rectOf(owner).adjusted(-room, -room, room, room);
     const double low = isUpright(side) ? rect.top() : rect.left();
     const double high = isUpright(side) ? rect.bottom() : rect.right();
-    if (offset == 0)
-        return onSide(rect, side, low + cornerRoom, high - cornerRoom, owner);
+    if (offset == 0) {
+        Anchor anchor = onSide(rect, side, low + cornerRoom, high - cornerRoom, owner);
+        anchor.pull = label || m_drawing.mux(owner) ? 0 : fieldPull;
+        return anchor;
+    }
     const double level = onPixel((low + high) / 2 + offset);
     if (!within(level, low, high))
         throw TreeError(QStringLiteral("the offset leaves the side of %1").arg(owner));
@@ -145,7 +187,9 @@ Anchor Anchors::input(const QString& radio) const
     const Side side = opposite(mux->nose);
     const QPointF middle = rectOf(radio).center();
     const double level = onPixel(isUpright(side) ? middle.y() : middle.x());
-    return onSide(mux->rect, side, level, level, radio);
+    Anchor anchor = onSide(mux->rect, side, level - radioRoom, level + radioRoom, radio);
+    anchor.pull = radioPull;
+    return anchor;
 }
 
 Anchor Anchors::branch(const QString& name, const QString& place) const
@@ -156,18 +200,10 @@ Anchor Anchors::branch(const QString& name, const QString& place) const
         if (wire.name != name)
             continue;
         for (const Segment& segment : segmentsOf(wire.points)) {
-            if (alongX && segment.isHorizontal() && within(value, segment.from.x(), segment.to.x()))
-                return {
-                    {value,                                     segment.from.y()},
-                    std::nullopt, 0, 0, {                                         },
-                    wire.net
-                };
-            if (!alongX && segment.isVertical() && within(value, segment.from.y(), segment.to.y()))
-                return {
-                    {segment.from.x(),                          value},
-                    std::nullopt, 0, 0, {                                         },
-                    wire.net
-                };
+            const QPointF point =
+                alongX ? QPointF(value, segment.from.y()) : QPointF(segment.from.x(), value);
+            if (segment.isHorizontal() == alongX && onSegment(point, segment))
+                return {point, std::nullopt, 0, 0, {}, wire.net, dotOn(wire)};
         }
     }
     throw TreeError(QStringLiteral("no wire %1 above this line passes %2").arg(name, place));

@@ -21,11 +21,21 @@ struct Anchor
     double high = 0;
     QString owner;          ///< what the wire is joined to; empty for a branch
     std::optional<int> net; ///< of the wire that a branch leaves
+    double dot = 0;         ///< radius of the dot where a branch leaves; off a bus bar there is none
+    /// Whose middle a row goes through: fields come before radio buttons, those before noses and labels.
+    int pull = 0;
 
     double level() const { return direction == Qt::Horizontal ? point.y() : point.x(); }
     /// The point at another level.
     QPointF at(double level) const;
 };
+
+/// The level for a straight row through all ends: it goes through the middle of those with the strongest
+/// pull, as far as the others allow. Where no level suits all, the row misses one of them.
+double commonLevel(const QVector<Anchor>& ends);
+
+/// The other side of a figure.
+Side opposite(Side side);
 
 /// Answers every question of position: where a control, a figure or a wire of the tree stands.
 /// All questions throw TreeError on a name or a place that is not there.
@@ -44,10 +54,12 @@ public:
     /// "control.left", "control.bottom-5", "mux.nose", "radio.in", or a branch "wire@x=240".
     Anchor anchor(const QString& text) const;
 
+    /// The side of a control or figure; without an offset the wire may stand anywhere on it.
+    Anchor side(const QString& owner, Side side, double offset = 0) const;
+
     QRectF rectOf(const QString& name) const;
 
 private:
-    Anchor side(const QString& owner, Side side, double offset) const;
     Anchor input(const QString& radio) const;
     Anchor branch(const QString& name, const QString& place) const;
     double named(const QString& name, const QString& side, Qt::Orientation axis) const;

@@ -1,41 +1,19 @@
 #include "checks.h"
 
+#include "checker.h"
+
+#include <QHash>
+
 #include <algorithm>
 
 namespace {
-
-// Pixels.
-constexpr double wireRoom = 2;        // between a wire and what it passes
-constexpr double halfWire = 0.75;     // of a wire's width
-constexpr double wireDistance = 5;    // between the middle lines of two wires side by side
-constexpr double shortestPiece = 6;   // of a wire with bends
-constexpr double shortestArrival = 9; // of the piece that carries the arrowhead
-
-/// What wires and figures must not cross.
-struct Block
-{
-    QString name;
-    QRectF rect;
-    QStringList owners; ///< names by which a wire may be joined to it
-    SourceLine source;
-};
-
-bool overlap(const QRectF& one, const QRectF& other)
-{
-    return one.left() < other.right() && other.left() < one.right() && one.top() < other.bottom() &&
-           other.top() < one.bottom();
-}
-
-QRectF grown(const QRectF& rect, double by)
-{
-    return rect.adjusted(-by, -by, by, by);
-}
 
 std::vector<Block> controlBlocks(const PageLayout& page)
 {
     std::vector<Block> blocks;
     for (const PlacedControl& control : page.controls)
-        blocks.push_back({control.name, control.rect, {control.name}, {}});
+        blocks.push_back(
+            {control.name, control.rect, {control.name}, {}, control.kind == ControlKind::Field});
     return blocks;
 }
 
@@ -49,116 +27,16 @@ std::vector<Block> figureBlocks(const Drawing& drawing)
         blocks.push_back({QLatin1String("box ") + box.name, box.rect, {box.name}, box.source});
     for (const Pad& pad : drawing.pads)
         blocks.push_back({QLatin1String("pad ") + pad.name, pad.rect, {pad.name}, pad.source});
+    for (const Tag& tag : drawing.tags)
+        blocks.push_back({
+            QLatin1String("tag ") + tag.name + tag.label, tag.rect, {tag.name, tag.label},
+                  tag.source
+        });
     for (const Crystal& crystal : drawing.crystals)
         blocks.push_back({QStringLiteral("crystal"), crystal.room, {}, crystal.source});
     for (const Caption& caption : drawing.captions)
         blocks.push_back({QLatin1String("text ") + caption.text, caption.rect, {}, caption.source});
     return blocks;
-}
-
-void checkFigures(const std::vector<Block>& figures, const std::vector<Block>& controls,
-                  const QRectF& picture, Problems& problems)
-{
-    for (auto figure = figures.begin(); figure != figures.end(); ++figure) {
-        if (!picture.contains(figure->rect))
-            problems.push_back(
-                {figure->source, QStringLiteral("%1 reaches out of the picture").arg(figure->name)});
-        const auto tell = [&](const Block& other) {
-            if (overlap(figure->rect, other.rect) && !figure->owners.contains(other.name))
-                problems.push_back(
-                    {figure->source, QStringLiteral("%1 crosses %2").arg(figure->name, other.name)});
-        };
-        std::for_each(controls.begin(), controls.end(), tell);
-        std::for_each(std::next(figure), figures.end(), tell);
-    }
-}
-
-/// A wire may touch what it is joined to from outside, and keeps away from anything else.
-bool hits(const Wire& wire, const Block& block)
-{
-    const bool joined = block.owners.contains(wire.from) || block.owners.contains(wire.to);
-    const QRectF forbidden = grown(block.rect, joined ? -halfWire : wireRoom);
-    const std::vector<Segment> segments = segmentsOf(wire.points);
-    return std::any_of(segments.begin(), segments.end(), [&forbidden](const Segment& segment) {
-        return overlap(grown(segment.bounds(), halfWire), forbidden);
-    });
-}
-
-void checkWire(const Wire& wire, const QRectF& picture, Problems& problems)
-{
-    const auto tell = [&](const QString& message) { problems.push_back({wire.source, message}); };
-    if (!picture.contains(grown(wire.points.boundingRect(), halfWire)))
-        tell(QStringLiteral("the wire reaches out of the picture"));
-    const std::vector<Segment> segments = segmentsOf(wire.points);
-    if (!wire.idle && segments.back().length() < shortestArrival)
-        tell(QStringLiteral("the wire has no room for its arrowhead at %1")
-                 .arg(wire.to.isEmpty() ? QStringLiteral("its end") : wire.to));
-    if (std::any_of(segments.begin(), segments.end(),
-                    [](const Segment& segment) { return segment.length() < shortestPiece; }))
-        tell(QStringLiteral("the wire has a kink"));
-}
-
-/// How far two parallel segments run side by side; negative if there is a gap between them.
-double sharedLength(const Segment& one, const Segment& other)
-{
-    const QRectF a = one.bounds();
-    const QRectF b = other.bounds();
-    return one.isHorizontal() ? std::min(a.right(), b.right()) - std::max(a.left(), b.left())
-                              : std::min(a.bottom(), b.bottom()) - std::max(a.top(), b.top());
-}
-
-bool runTogether(const Segment& one, const Segment& other)
-{
-    if (one.isHorizontal() != other.isHorizontal() || sharedLength(one, other) <= 0)
-        return false;
-    const double distance =
-        one.isHorizontal() ? one.from.y() - other.from.y() : one.from.x() - other.from.x();
-    return qAbs(distance) < wireDistance;
-}
-
-/// Where the lines of two segments at right angles meet.
-QPointF meeting(const Segment& one, const Segment& other)
-{
-    return one.isHorizontal() ? QPointF(other.from.x(), one.from.y()) : QPointF(one.from.x(), other.from.y());
-}
-
-bool isBranchPoint(const QPointF& point, const Wire& one, const Wire& other)
-{
-    return one.net == other.net &&
-           ((one.branch && one.points.first() == point) || (other.branch && other.points.first() == point));
-}
-
-/// What is wrong between two segments of two wires, as the end of a sentence; empty if nothing is.
-QString conflict(const Segment& one, const Segment& other, const Wire& oneWire, const Wire& otherWire)
-{
-    if (runTogether(one, other))
-        return QStringLiteral("runs along");
-    if (one.isHorizontal() == other.isHorizontal())
-        return {};
-    const QPointF point = meeting(one, other);
-    if (isBranchPoint(point, oneWire, otherWire))
-        return {};
-    if (crosses(one, other))
-        return oneWire.net == otherWire.net ? QStringLiteral("crosses its own signal,") : QString();
-    const double reach = wireDistance / 2;
-    if (grown(one.bounds(), reach).contains(point) && grown(other.bounds(), reach).contains(point))
-        return QStringLiteral("touches without joining");
-    return {};
-}
-
-void checkPair(const Wire& one, const Wire& other, Problems& problems)
-{
-    for (const Segment& segment : segmentsOf(one.points)) {
-        for (const Segment& otherSegment : segmentsOf(other.points)) {
-            const QString wrong = conflict(segment, otherSegment, one, other);
-            if (wrong.isEmpty())
-                continue;
-            problems.push_back({other.source, QStringLiteral("the wire %1 the wire of %2:%3")
-                                                  .arg(wrong, one.source.file)
-                                                  .arg(one.source.number)});
-            return;
-        }
-    }
 }
 
 bool isReached(const Drawing& drawing, const QString& name)
@@ -167,58 +45,127 @@ bool isReached(const Drawing& drawing, const QString& name)
                        [&name](const Wire& wire) { return wire.to == name; });
 }
 
-/// What the page has and the tree forgets.
-void checkComplete(const Drawing& drawing, const PageLayout& page, const QString& tree, Problems& problems)
+/// The layout with the rooms that the tree keeps free.
+PageLayout roomy(PageLayout page, const Drawing& drawing)
 {
-    const auto tell = [&](const QString& message, const QString& name) {
-        problems.push_back({
-            {tree, 0},
-            message.arg(name)
-        });
-    };
-    for (const PlacedControl& control : page.controls) {
-        const bool radio = control.kind == ControlKind::Radio;
-        if (radio && !drawing.mux(control.name))
-            tell(QStringLiteral("%1 lies in no multiplexer"), control.name);
-        else if (radio && !isReached(drawing, control.name))
-            tell(QStringLiteral("no wire enters at %1"), control.name);
-        if (control.output && !isReached(drawing, control.name))
-            tell(QStringLiteral("no wire ends at %1"), control.name);
+    for (PlacedControl& control : page.controls) {
+        if (drawing.rooms.contains(control.name))
+            control.rect.setSize(drawing.rooms.value(control.name));
     }
+    return page;
 }
+
+/// Tells faults of several states once, with the states where not all share them.
+class Collector
+{
+public:
+    void add(const Problems& problems, const QString& state)
+    {
+        ++m_states;
+        for (const Problem& problem : problems) {
+            const QString text = problem.text();
+            if (!m_where.contains(text))
+                m_all.push_back(problem);
+            if (!m_where[text].contains(state))
+                m_where[text] << state;
+        }
+    }
+    void tell(Problems& problems)
+    {
+        for (Problem& problem : m_all) {
+            const QStringList where = m_where.value(problem.text());
+            if (where.size() < m_states)
+                problem.message += QLatin1String(", while ") + where.join(QLatin1String(", "));
+            problems.push_back(problem);
+        }
+    }
+
+private:
+    int m_states = 0;
+    Problems m_all;
+    QHash<QString, QStringList> m_where;
+};
 
 } // namespace
 
-bool crosses(const Segment& one, const Segment& other)
+QRectF grown(const QRectF& rect, double by)
 {
-    if (one.isHorizontal() == other.isHorizontal())
-        return false;
-    const QPointF point = meeting(one, other);
-    const double reach = wireDistance / 2;
-    const auto passes = [&point, reach](const Segment& segment) {
-        const QRectF line = segment.bounds();
-        return segment.isHorizontal() ? point.x() > line.left() + reach && point.x() < line.right() - reach
-                                      : point.y() > line.top() + reach && point.y() < line.bottom() - reach;
-    };
-    return passes(one) && passes(other);
+    return rect.adjusted(-by, -by, by, by);
 }
 
-void checkDrawing(const Drawing& drawing, const PageLayout& page, const QString& tree, Problems& problems)
+Checker::Checker(const Drawing& drawing, const PageLayout& page, const QString& tree)
+    : m_drawing(drawing), m_page(page), m_tree{tree, 0}, m_controls(controlBlocks(page)),
+      m_figures(figureBlocks(drawing))
 {
-    const QRectF picture(QPointF(), QSizeF(page.size));
-    const std::vector<Block> controls = controlBlocks(page);
-    const std::vector<Block> figures = figureBlocks(drawing);
-    checkFigures(figures, controls, picture, problems);
-    std::vector<Block> all = controls;
-    all.insert(all.end(), figures.begin(), figures.end());
-    for (auto wire = drawing.wires.begin(); wire != drawing.wires.end(); ++wire) {
-        checkWire(*wire, picture, problems);
-        for (const Block& block : all) {
-            if (hits(*wire, block))
-                problems.push_back({wire->source, QStringLiteral("the wire crosses %1").arg(block.name)});
+}
+
+void Checker::tell(const SourceLine& source, const QString& message, const QStringList& some,
+                   const QStringList& others)
+{
+    bool allowed = false;
+    for (int i = 0; i < int(m_drawing.allowances.size()); ++i) {
+        const Allowance& pair = m_drawing.allowances[i];
+        if ((some.contains(pair.one) && others.contains(pair.other)) ||
+            (some.contains(pair.other) && others.contains(pair.one))) {
+            m_used << i;
+            allowed = true;
         }
-        std::for_each(std::next(wire), drawing.wires.end(),
-                      [&](const Wire& other) { checkPair(*wire, other, problems); });
     }
-    checkComplete(drawing, page, tree, problems);
+    if (!allowed)
+        tell(source, message);
+}
+
+void Checker::checkFigures()
+{
+    const QRectF picture(QPointF(), QSizeF(m_page.size));
+    for (auto figure = m_figures.begin(); figure != m_figures.end(); ++figure) {
+        if (!picture.contains(figure->rect))
+            tell(figure->source, QStringLiteral("%1 reaches out of the picture").arg(figure->name));
+        const auto check = [&](const Block& other) {
+            if (overlap(figure->rect, other.rect) && !figure->owners.contains(other.name))
+                tell(figure->source, QStringLiteral("%1 crosses %2").arg(figure->name, other.name),
+                     figure->owners, other.owners);
+        };
+        std::for_each(m_controls.begin(), m_controls.end(), check);
+        std::for_each(std::next(figure), m_figures.end(), check);
+    }
+}
+
+/// What the page has and the tree forgets.
+void Checker::checkComplete()
+{
+    for (const PlacedControl& control : m_page.controls) {
+        const bool radio = control.kind == ControlKind::Radio;
+        if (radio && !m_drawing.mux(control.name))
+            tell(m_tree, QStringLiteral("%1 lies in no multiplexer").arg(control.name));
+        else if (radio && !isReached(m_drawing, control.name))
+            tell(m_tree, QStringLiteral("no wire enters at %1").arg(control.name));
+        if (!control.bus.isEmpty() && !isReached(m_drawing, control.name))
+            tell(m_tree, QStringLiteral("no wire ends at %1").arg(control.name));
+    }
+}
+
+void checkDrawing(const Drawing& drawing, const std::vector<PageLayout>& states, const QString& tree,
+                  Problems& problems)
+{
+    Collector collector;
+    QSet<int> used;
+    for (const PageLayout& state : states) {
+        const PageLayout page = roomy(state, drawing);
+        Checker checker(drawing, page, tree);
+        checker.checkPage();
+        checker.checkFigures();
+        checker.checkWires();
+        checker.checkComplete();
+        collector.add(checker.problems(), state.state);
+        used |= checker.used();
+    }
+    collector.tell(problems);
+    for (int i = 0; i < int(drawing.allowances.size()); ++i) {
+        const Allowance& pair = drawing.allowances[i];
+        if (!used.contains(i))
+            problems.push_back(
+                {pair.source,
+                 QStringLiteral("nothing needs this allowance of %1 and %2").arg(pair.one, pair.other)});
+    }
 }

@@ -36,6 +36,8 @@ std::optional<QRectF> Drawing::rectOf(const QString& name) const
         return box->rect;
     if (const Pad* pad = named(pads, name))
         return pad->rect;
+    if (const Tag* tag = named(tags, name))
+        return tag->rect;
     return std::nullopt;
 }
 
@@ -43,6 +45,12 @@ QRectF Segment::bounds() const
 {
     return {QPointF(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
             QPointF(std::max(from.x(), to.x()), std::max(from.y(), to.y()))};
+}
+
+bool overlap(const QRectF& one, const QRectF& other)
+{
+    return one.left() < other.right() && other.left() < one.right() && one.top() < other.bottom() &&
+           other.top() < one.bottom();
 }
 
 std::vector<Segment> segmentsOf(const QPolygonF& points)

@@ -14,6 +14,7 @@
 #include <QLoggingCategory>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -30,56 +31,90 @@ void tellFont()
         say(QStringLiteral("Arial is drawn as %1: install the Liberation fonts").arg(family));
 }
 
-/// The page of the series, shown in the window; null, after telling, for a series without a page.
-ClockTreePage* showPage(const QString& series, QWidget& window)
+/// "G110PLL.bmp" -> "G110PLL@2x.bmp", the name that tells image readers of the pixel ratio.
+QString doubledName(const QString& output)
 {
-    const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + series);
-    // The program's windows lend this sheet to their pages, and sheets change the sizes of controls.
-    window.setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
-    ClockTreePage* page = traits ? createSeriesPage(traits->series, &window) : nullptr;
-    if (page)
-        window.show();
-    else
-        say(QStringLiteral("there is no page for the series %1").arg(series));
-    return page;
+    const QFileInfo file(output);
+    return file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("@2x.") + file.suffix();
 }
 
-int list(const QString& series)
+bool save(const QImage& picture, const QString& path)
 {
-    QWidget window;
-    ClockTreePage* page = showPage(series, window);
-    if (!page)
-        return 1;
-    layoutOf(*page); // lets the sizes settle
-    std::fputs(qPrintable(inventoryOf(*page)), stdout);
-    return 0;
+    if (picture.save(path, "BMP"))
+        return true;
+    say(QStringLiteral("%1 cannot be written").arg(path));
+    return false;
 }
 
-int paint(const QString& series, const QString& tree, const QString& output, const QString& review)
+/// A line for every control: what trees can name, and where it stands.
+void list(const std::vector<PageLayout>& states)
 {
-    QWidget window;
-    ClockTreePage* page = showPage(series, window);
-    if (!page)
-        return 1;
-    PageLayout layout = layoutOf(*page);
+    for (const PageLayout& state : states) {
+        if (!state.state.isEmpty())
+            std::printf("%s\n", qPrintable(state.state));
+        for (const PlacedControl& control : state.controls) {
+            const QRectF& rect = control.rect;
+            std::printf("%-36s x %g to %g, y %g to %g, middle %g, %g %s\n", qPrintable(control.name),
+                        rect.left(), rect.right(), rect.top(), rect.bottom(), rect.center().x(),
+                        rect.center().y(), qPrintable(control.bus));
+        }
+    }
+}
+
+struct Task
+{
+    QString tree;
+    QString output;
+    QString review; ///< base of the pictures of the page; empty for none
+    bool places = false;
+};
+
+int paint(ClockTreePage& page, const Task& task)
+{
+    const std::vector<PageLayout> states = layoutsOf(page);
+    if (task.places)
+        list(states);
+    PageLayout all = together(states);
     Problems problems;
-    const Drawing drawing = buildDrawing(readTree(tree, problems), layout, problems);
-    checkDrawing(drawing, layout, QFileInfo(tree).fileName(), problems);
+    const Drawing drawing = buildDrawing(readTree(task.tree, problems), all, problems);
+    checkDrawing(drawing, states, QFileInfo(task.tree).fileName(), problems);
+    for (const QString& name : page.unusedPlaces())
+        problems.push_back({
+            {QFileInfo(task.tree).fileName(), 0},
+            QStringLiteral("%1 has a place, and no routine makes it").arg(name)
+        });
     for (const Problem& problem : problems)
         say(problem.text());
-    const QImage picture = paintPicture(drawing, layout.size);
-    if (!review.isEmpty() && !writeReview(*page, picture, review)) {
-        say(QStringLiteral("%1 cannot be written").arg(review));
+    const QImage picture = paintPicture(drawing, all.size);
+    const QImage doubled = paintPicture(drawing, all.size, 2);
+    if (!task.review.isEmpty() && !writeReview(page, picture, doubled, task.review)) {
+        say(QStringLiteral("%1 cannot be written").arg(task.review));
         return 1;
     }
     if (!problems.empty()) {
         tellFont();
         return 1;
     }
-    if (!picture.save(output, "BMP")) {
-        say(QStringLiteral("%1 cannot be written").arg(output));
+    return save(picture, task.output) && save(doubled, doubledName(task.output)) ? 0 : 1;
+}
+
+/// Paints the series' tree; without a task it lists what the page holds.
+int workOn(const QString& series, const std::optional<Task>& task)
+{
+    const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + series);
+    // The program's windows lend this sheet to their pages, and sheets change the sizes of controls.
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
+    ClockTreePage* page = traits ? createSeriesPage(traits->series, &window) : nullptr;
+    if (!page) {
+        say(QStringLiteral("there is no page for the series %1").arg(series));
         return 1;
     }
+    window.show();
+    if (task)
+        return paint(*page, *task);
+    layoutsOf(*page); // lets the sizes settle
+    std::fputs(qPrintable(inventoryOf(*page)), stdout);
     return 0;
 }
 
@@ -96,22 +131,24 @@ int main(int argc, char* argv[])
     arguments.addPositionalArgument(QStringLiteral("series"),
                                     QStringLiteral("The series word, such as G110."));
     arguments.addPositionalArgument(QStringLiteral("tree"), QStringLiteral("The text of the tree."));
-    arguments.addPositionalArgument(QStringLiteral("output"), QStringLiteral("The bitmap to write."));
+    arguments.addPositionalArgument(QStringLiteral("output"),
+                                    QStringLiteral("The bitmap to write, and beside it its @2x."));
     const QCommandLineOption review(
         QStringLiteral("review"),
         QStringLiteral("Also write the page with its picture to <base>-100.png and "
                        "<base>-200.png, even of a tree with faults."),
         QStringLiteral("base"));
-    arguments.addOption(review);
+    const QCommandLineOption places(QStringLiteral("places"),
+                                    QStringLiteral("Also list the page's controls with their places."));
     const QCommandLineOption inventory(
         QStringLiteral("list"),
         QStringLiteral("Only print what the page of the series holds; takes neither tree nor output."));
-    arguments.addOption(inventory);
+    arguments.addOptions({review, places, inventory});
     arguments.process(application);
     const QStringList files = arguments.positionalArguments();
     if (arguments.isSet(inventory) && files.size() == 1)
-        return list(files[0]);
+        return workOn(files[0], {});
     if (files.size() != 3)
         arguments.showHelp(1);
-    return paint(files[0], files[1], files[2], arguments.value(review));
+    return workOn(files[0], Task{files[1], files[2], arguments.value(review), arguments.isSet(places)});
 }

@@ -15,14 +15,15 @@ const QColor ink(0, 32, 82);
 const QColor muxFrame(57, 169, 220);
 // The frame of the pages' own boxes with a fixed step.
 const QColor boxFrame(10, 78, 121);
+// Beside blocks that are on and blocks that are grey.
+const QColor quietInk(104, 128, 158);
+const QColor regionInk(150, 168, 190);
 
 // Pixels.
-constexpr double wireWidth = 1.5;
-constexpr double dotRadius = 2.75;
-constexpr double hopRadius = 4;
-constexpr double arrowLength = 8;
-constexpr double arrowHalfWidth = 3.5;
+constexpr double hopRoom = 3.5;
 constexpr double idleBarHalf = 4;
+constexpr double tagTip = 7;
+constexpr double padInset = 2.5;
 constexpr double crystalPlateHalf = 6;
 constexpr double crystalBodyHalfWidth = 7;
 constexpr double crystalBodyHalfHeight = 3.5;
@@ -30,9 +31,15 @@ constexpr double crystalPlateDistance = 6.5;
 
 constexpr int mostColors = 256;
 
-QPen wirePen(const QColor& color = ink)
+QPen wirePen(double width, const QColor& color = ink)
 {
-    return {color, wireWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+    return {color, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
+
+/// An arrowhead grows with its wire, but less.
+QSizeF arrowOf(const Wire& wire)
+{
+    return wire.width > weight::branch ? QSizeF(10, 9) : QSizeF(8, 6);
 }
 
 /// The unit vector along the wire at its last piece.
@@ -42,19 +49,26 @@ QPointF arrival(const Wire& wire)
     return way / way.manhattanLength();
 }
 
-/// Where the horizontal segment hops over wires of other signals, in its own direction.
-std::vector<double> hopsOf(const Segment& segment, const Drawing& drawing)
+/// A hop over a wire of another signal.
+struct Hop
 {
-    std::vector<double> hops;
+    double x;
+    double radius;
+};
+
+/// Where the horizontal segment hops over wires of other signals, in its own direction.
+std::vector<Hop> hopsOf(const Segment& segment, const Drawing& drawing)
+{
+    std::vector<Hop> hops;
     if (!segment.isHorizontal())
         return hops;
     for (const Wire& wire : drawing.wires) {
         for (const Segment& other : segmentsOf(wire.points)) {
             if (crosses(segment, other))
-                hops.push_back(other.from.x());
+                hops.push_back({other.from.x(), wire.width / 2 + hopRoom});
         }
     }
-    std::sort(hops.begin(), hops.end());
+    std::sort(hops.begin(), hops.end(), [](const Hop& one, const Hop& two) { return one.x < two.x; });
     if (segment.to.x() < segment.from.x())
         std::reverse(hops.begin(), hops.end());
     return hops;
@@ -63,13 +77,15 @@ std::vector<double> hopsOf(const Segment& segment, const Drawing& drawing)
 QPainterPath pathOf(const Wire& wire, const Drawing& drawing)
 {
     QPolygonF points = wire.points;
-    if (!wire.idle)
-        points.last() -= arrival(wire) * (arrowLength - 1);
+    if (wire.end == WireEnd::Arrow)
+        points.last() -= arrival(wire) * (arrowOf(wire).width() - 1);
     QPainterPath path(points.first());
     for (const Segment& segment : segmentsOf(points)) {
         const bool rightward = segment.to.x() > segment.from.x();
-        for (const double x : hopsOf(segment, drawing)) {
-            const QRectF circle(x - hopRadius, segment.from.y() - hopRadius, 2 * hopRadius, 2 * hopRadius);
+        for (const Hop& hop : hopsOf(segment, drawing)) {
+            const QPointF corner(hop.radius, hop.radius);
+            const QPointF middle(hop.x, segment.from.y());
+            const QRectF circle(middle - corner, middle + corner);
             path.arcTo(circle, rightward ? 180 : 0, rightward ? -180 : 180);
         }
         path.lineTo(segment.to);
@@ -79,14 +95,15 @@ QPainterPath pathOf(const Wire& wire, const Drawing& drawing)
 
 void paintArrow(QPainter& painter, const Wire& wire)
 {
+    const QSizeF size = arrowOf(wire);
     const QPointF way = arrival(wire);
-    const QPointF across(-way.y(), way.x());
+    const QPointF across = QPointF(-way.y(), way.x()) * (size.height() / 2);
     const QPointF tip = wire.points.last();
-    const QPointF base = tip - way * arrowLength;
+    const QPointF base = tip - way * size.width();
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
     painter.drawPolygon(QPolygonF{
-        {tip, base + across * arrowHalfWidth, base - across * arrowHalfWidth}
+        {tip, base + across, base - across}
     });
 }
 
@@ -94,28 +111,38 @@ void paintArrow(QPainter& painter, const Wire& wire)
 void paintIdleEnd(QPainter& painter, const Wire& wire)
 {
     const QPointF end = wire.points.first();
-    painter.setPen(wirePen());
+    painter.setPen(wirePen(wire.width));
     painter.drawLine(end - QPointF(0, idleBarHalf), end + QPointF(0, idleBarHalf));
 }
 
 void paintWire(QPainter& painter, const Wire& wire, const Drawing& drawing)
 {
-    painter.strokePath(pathOf(wire, drawing), wirePen());
-    if (wire.idle)
+    if (wire.width == weight::bar)
+        return;
+    painter.strokePath(pathOf(wire, drawing), wirePen(wire.width));
+    if (wire.end == WireEnd::Idle)
         paintIdleEnd(painter, wire);
-    else
+    if (wire.end == WireEnd::Arrow)
         paintArrow(painter, wire);
-    if (!wire.branch)
+    if (wire.dot == 0)
         return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
-    painter.drawEllipse(wire.points.first(), dotRadius, dotRadius);
+    painter.drawEllipse(wire.points.first(), wire.dot, wire.dot);
+}
+
+/// A hollow bar: the spine runs into it, the branches come out of it.
+void paintBar(QPainter& painter, const QRectF& bar)
+{
+    painter.setPen(QPen(ink, 1));
+    painter.setBrush(QColor(muxGround));
+    painter.drawRect(bar.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void paintCrystal(QPainter& painter, const Crystal& crystal)
 {
-    painter.setBrush(QColor(muxGround));
-    painter.setPen(wirePen());
+    painter.setBrush(Qt::white);
+    painter.setPen(wirePen(1, quietInk));
     for (const QPolygonF& lead : crystal.leads) {
         painter.drawPolyline(lead);
         const double level = lead.last().y();
@@ -124,14 +151,13 @@ void paintCrystal(QPainter& painter, const Crystal& crystal)
         painter.drawLine(QPointF(plate.x(), level), plate);
         painter.drawLine(plate - QPointF(crystalPlateHalf, 0), plate + QPointF(crystalPlateHalf, 0));
     }
-    painter.setPen(QPen(ink, 1));
     const QPointF corner(crystalBodyHalfWidth, crystalBodyHalfHeight);
     painter.drawRect(QRectF(crystal.middle - corner, crystal.middle + corner));
 }
 
 void paintMux(QPainter& painter, const Mux& mux)
 {
-    painter.setPen(wirePen(muxFrame));
+    painter.setPen(QPen(muxFrame, 1));
     painter.setBrush(QColor(muxGround));
     painter.drawPolygon(mux.outline);
 }
@@ -151,8 +177,34 @@ void paintPad(QPainter& painter, const Pad& pad)
     painter.setPen(QPen(ink, 1));
     painter.setBrush(QColor(muxGround));
     painter.drawRect(pad.rect);
-    painter.drawLine(pad.rect.topLeft(), pad.rect.bottomRight());
-    painter.drawLine(pad.rect.topRight(), pad.rect.bottomLeft());
+    const QRectF cross = pad.rect.adjusted(padInset, padInset, -padInset, -padInset);
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
+}
+
+/// A flag with its tip at the level of its wire. The frame lies just inside of the rectangle.
+void paintTag(QPainter& painter, const Tag& tag)
+{
+    const QRectF rect = tag.rect.adjusted(0.5, 0.5, -0.5, -0.5);
+    QPolygonF outline;
+    if (tag.tip == Side::Left)
+        outline << rect.topRight() << rect.topLeft() + QPointF(tagTip, 0) << QPointF(rect.left(), tag.level)
+                << rect.bottomLeft() + QPointF(tagTip, 0) << rect.bottomRight();
+    else
+        outline << rect.topLeft() << rect.topRight() - QPointF(tagTip, 0) << QPointF(rect.right(), tag.level)
+                << rect.bottomRight() - QPointF(tagTip, 0) << rect.bottomLeft();
+    painter.setPen(QPen(quietInk, 1));
+    painter.setBrush(Qt::white);
+    tag.open ? painter.drawPolyline(outline) : painter.drawPolygon(outline);
+    painter.setPen(ink);
+    painter.drawText(rect, Qt::AlignCenter, tag.text);
+}
+
+void paintCaption(QPainter& painter, const Caption& caption)
+{
+    painter.setFont(captionFont(caption.style));
+    painter.setPen(caption.style == Style::Region ? regionInk : ink);
+    painter.drawText(caption.rect, Qt::AlignCenter, caption.text);
 }
 
 /// The colours of the image, the most frequent first.
@@ -207,11 +259,12 @@ QImage indexed(const QImage& image)
 
 } // namespace
 
-QImage paintPicture(const Drawing& drawing, const QSize& size)
+QImage paintPicture(const Drawing& drawing, const QSize& size, int scale)
 {
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(size * scale, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
+    painter.scale(scale, scale);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(captionFont());
     for (const Mux& mux : drawing.muxes)
@@ -220,13 +273,18 @@ QImage paintPicture(const Drawing& drawing, const QSize& size)
         paintCrystal(painter, crystal);
     for (const Wire& wire : drawing.wires)
         paintWire(painter, wire, drawing);
+    for (const QRectF& bar : drawing.bars)
+        paintBar(painter, bar);
     for (const Box& box : drawing.boxes)
         paintBox(painter, box);
     for (const Pad& pad : drawing.pads)
         paintPad(painter, pad);
-    painter.setPen(ink);
+    for (const Tag& tag : drawing.tags)
+        paintTag(painter, tag);
     for (const Caption& caption : drawing.captions)
-        painter.drawText(caption.rect, Qt::AlignCenter, caption.text);
+        paintCaption(painter, caption);
     painter.end();
-    return indexed(image);
+    QImage picture = indexed(image);
+    picture.setDevicePixelRatio(scale);
+    return picture;
 }

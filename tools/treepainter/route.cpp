@@ -21,11 +21,10 @@ QPolygonF straight(const Anchor& start, const Anchor& end)
             diagonal(start.point, end.point);
         return QVector<QPointF>{start.point, end.at(level)};
     }
-    const double low = std::max(start.low, end.low);
-    const double high = std::min(start.high, end.high);
-    if (start.direction != end.direction || low > high)
+    const double level = commonLevel({start, end});
+    if (start.direction != end.direction || level < start.low || level > start.high || level < end.low ||
+        level > end.high)
         diagonal(start.point, end.point);
-    const double level = std::clamp(end.level(), low, high);
     return QVector<QPointF>{start.at(level), end.at(level)};
 }
 

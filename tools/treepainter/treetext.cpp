@@ -35,7 +35,12 @@ QVector<Word> wordsOf(const QString& line)
 
 Statement statementOf(QVector<Word> words, const SourceLine& source)
 {
-    Statement statement{source, words.takeFirst().text, {}, {}};
+    Statement statement{source, {}, {}, {}};
+    while (!words.isEmpty() && !words.first().quoted && words.first().text.startsWith(QLatin1Char('?')))
+        statement.conditions << words.takeFirst().text.mid(1);
+    if (words.isEmpty())
+        throw TreeError(QStringLiteral("a condition stands before a statement"));
+    statement.keyword = words.takeFirst().text;
     if (!words.isEmpty() && !words.first().quoted && words.first().text.endsWith(QLatin1Char(':'))) {
         statement.name = words.takeFirst().text;
         statement.name.chop(1);
@@ -60,8 +65,10 @@ void include(const Statement& line, const QString& folder, std::vector<Statement
         problems.push_back({line.source, QStringLiteral("there is no tree %1").arg(name)});
         return;
     }
-    for (Statement& statement : readNested(path, problems, depth + 1))
+    for (Statement& statement : readNested(path, problems, depth + 1)) {
+        statement.conditions = line.conditions + statement.conditions;
         all.push_back(std::move(statement));
+    }
 }
 
 std::vector<Statement> readNested(const QString& path, Problems& problems, int depth)

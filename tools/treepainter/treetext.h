@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <stdexcept>
@@ -43,11 +44,13 @@ struct Statement
     QString keyword;
     QString name;
     QVector<Word> words;
+    /// The line counts on pages with these controls; "!" before a name means pages without it.
+    QStringList conditions = {};
 };
 
 /// The statements of a tree's text; blank lines and comments give none.
 std::vector<Statement> parseTree(const QString& text, const QString& file, Problems& problems);
 
-/// The statements of a file, those of the files it includes in the place of each include line. Included files
-/// stand in the same folder.
+/// The statements of a file, those of the files it includes in the place of each include line; they take on
+/// its conditions. Included files stand in the same folder.
 std::vector<Statement> readTree(const QString& path, Problems& problems);
