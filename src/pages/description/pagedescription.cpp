@@ -47,11 +47,11 @@ std::vector<StartValue> parseStart(const char* text)
 
 // A peripheral's small tree, pixels from its corner: the names of the sources, their buttons, the switch, the
 // result and its unit; one source below the other.
-constexpr int sourceRadioRight = 58;
-constexpr int switchRight = 96;
-constexpr int resultRight = 178;
-constexpr int unitRight = 262;
-constexpr int firstSourceDown = 24;
+constexpr int sourceRadioRight = 78;
+constexpr int switchRight = 115;
+constexpr int resultRight = 196;
+constexpr int unitRight = 280;
+constexpr int firstSourceDown = 30;
 constexpr int sourcePitch = 20;
 constexpr int radioBelowName = 2;
 

@@ -118,7 +118,7 @@ PeripheralClock usart(PeripheralClock clock, ClockSource pclk, int y)
 
 PeripheralClock usart2()
 {
-    PeripheralClock clock = usart(peripherals::usart2(), ClockSource::Apb1, 598);
+    PeripheralClock clock = usart(peripherals::usart2(), ClockSource::Apb1, 600);
     // It follows the switch of the first USART, not its own. This stands as it is.
     clock.writtenWhile = MODEL_FIELD(USART1_Switch);
     return clock;
@@ -134,7 +134,7 @@ PeripheralClock i2c1()
         {I2C1_CLOCK_SOURCE_HICK48, "hick48", ClockSource::Hick},
     };
     clock.x = 600;
-    clock.y = 716;
+    clock.y = 720;
     clock.fallback = I2C1_CLOCK_SOURCE_HICK48;
     return clock;
 }

@@ -36,8 +36,8 @@ const Places& places()
         {"m_pllfp_Label",             585, 262}, {"m_pllfp_ComboBox",            570, 282},
         {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     532, 227},
         {"m_pllclk_Label",            645, 268},
-        {"m_hextdiv_Label",           603, 174}, {"m_hextdiv_ComboBox",          600, 194},
-        {"m_hickdiv_Label",           603, 356}, {"m_hickdiv_ComboBox",          600, 376},
+        {"m_hextdiv_Label",           588, 174}, {"m_hextdiv_ComboBox",          585, 194},
+        {"m_hickdiv_Label",           588, 356}, {"m_hickdiv_ComboBox",          585, 376},
         {"m_hicktosclk_Label",        267, 440},
         {"m_hicktosclk_div6_RadioButton", 288, 357}, {"m_hicktosclk_RadioButton", 288, 407},
         {"m_sclkselect_Label",        712, 170}, {"m_sclkselect_hext_RadioButton", 738, 232},
@@ -63,10 +63,10 @@ const Places& places()
         {"m_usbclock_Label",    920, 460},
 
         // The clock output
-        {"m_clockoutpin_Label",      67, 692}, {"m_clockoutpin_ComboBox",   60, 712},
-        {"m_clockoutdiv2_Label",    150, 692}, {"m_clockoutdiv2_ComboBox", 152, 712},
-        {"m_clockoutdiv1_Label",    242, 692}, {"m_clockoutdiv1_ComboBox", 244, 712},
-        {"m_clockout_Value_QLabel",  20, 745}, {"m_clockout_QLabel",       340, 806},
+        {"m_clockoutpin_Label",      93, 692}, {"m_clockoutpin_ComboBox",   88, 712},
+        {"m_clockoutdiv2_Label",    175, 692}, {"m_clockoutdiv2_ComboBox", 178, 712},
+        {"m_clockoutdiv1_Label",    265, 692}, {"m_clockoutdiv1_ComboBox", 268, 712},
+        {"m_clockout_Value_QLabel",  48, 742}, {"m_clockout_QLabel",       360, 807},
     };
     return table;
 }
@@ -92,16 +92,16 @@ ClockOutput clockOutput()
 {
     ClockOutput output = singleClockOutput();
     output.pins = {{"PA8", CLKOUTPIN_PA8}, {"PA9", CLKOUTPIN_PA9}, {"PB13", CLKOUTPIN_PB13}, {"PC9", CLKOUTPIN_PC9}};
-    output.column = {352, 410, 450, -2};
+    output.column = {372, 430, 470, -2};
     output.rows = {
-        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  645, "sclk"},
-        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  665, "hext"},
-        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   685, "pll"},
-        {CLKOUT_USBFS,    "usbfs",   ClockSource::Usb,   705, "usbfs", RowGate::Usb},
-        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   725, "adc"},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  745, "hick"},
-        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  765, "lick"},
-        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  785, "lext"},
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  640, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  660, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   680, "pll"},
+        {CLKOUT_USBFS,    "usbfs",   ClockSource::Usb,   700, "usbfs", RowGate::Usb},
+        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   720, "adc"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  740, "hick"},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  760, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  780, "lext"},
     };
     output.dividers = {
         dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),
@@ -121,7 +121,7 @@ PeripheralClock i2sf5()
         {I2SF5_CLOCK_SOURCE_HICK,     "hick",     ClockSource::Hick},
         {I2SF5_CLOCK_SOURCE_EXTERNAL, "external", ClockSource::Outside},
     };
-    clock.x = 700;
+    clock.x = 674;
     clock.y = 640;
     return clock;
 }

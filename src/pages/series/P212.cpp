@@ -36,8 +36,8 @@ const Places& places()
         {"m_pllfr_Label",             585, 262}, {"m_pllfr_ComboBox",            570, 282},
         {"m_pllCFG_Label",            420, 230}, {"m_pllCFG_Value_lineEdit",     532, 227},
         {"m_pllclk_Label",            645, 268},
-        {"m_hextdiv_Label",           603, 174}, {"m_hextdiv_ComboBox",          600, 194},
-        {"m_hickdiv_Label",           603, 356}, {"m_hickdiv_ComboBox",          600, 376},
+        {"m_hextdiv_Label",           588, 174}, {"m_hextdiv_ComboBox",          585, 194},
+        {"m_hickdiv_Label",           588, 356}, {"m_hickdiv_ComboBox",          585, 376},
         {"m_hicktosclk_Label",        267, 440},
         {"m_hicktosclk_div6_RadioButton", 288, 357}, {"m_hicktosclk_RadioButton", 288, 407},
         {"m_sclkselect_Label",        712, 170}, {"m_sclkselect_hext_RadioButton", 738, 232},
@@ -57,10 +57,10 @@ const Places& places()
         {"m_toapb1tmr_mul",   1092, 284}, {"m_toapb2tmr_mul",       1092, 448},
 
         // The clock output
-        {"m_clockoutpin_Label",      67, 692}, {"m_clockoutpin_ComboBox",   60, 712},
-        {"m_clockoutdiv2_Label",    150, 692}, {"m_clockoutdiv2_ComboBox", 152, 712},
-        {"m_clockoutdiv1_Label",    242, 692}, {"m_clockoutdiv1_ComboBox", 244, 712},
-        {"m_clockout_Value_QLabel",  20, 745}, {"m_clockout_QLabel",       340, 806},
+        {"m_clockoutpin_Label",      93, 692}, {"m_clockoutpin_ComboBox",   88, 712},
+        {"m_clockoutdiv2_Label",    175, 692}, {"m_clockoutdiv2_ComboBox", 178, 712},
+        {"m_clockoutdiv1_Label",    265, 692}, {"m_clockoutdiv1_ComboBox", 268, 712},
+        {"m_clockout_Value_QLabel",  48, 742}, {"m_clockout_QLabel",       360, 807},
     };
     return table;
 }
@@ -88,15 +88,15 @@ ClockOutput clockOutput()
     output.pins = {{"PA8", CLKOUTPIN_PA8}, {"PA9", CLKOUTPIN_PA9}, {"PB13", CLKOUTPIN_PB13}, {"PF2", CLKOUTPIN_PF2}};
     // The series lacks a pin in the middle of the numbers: index and number differ.
     output.pinsByText = true;
-    output.column = {352, 410, 450, -2};
+    output.column = {372, 430, 470, -2};
     output.rows = {
-        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  645, "sclk"},
-        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  665, "hext"},
-        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   685, "pll"},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  705, "hick"},
-        {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,   725, "adcclk", RowGate::None, 10},
-        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  745, "lick"},
-        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  765, "lext"},
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  640, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  660, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   680, "pll"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  700, "hick"},
+        {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,   720, "adcclk", RowGate::None, 10},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  740, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  760, "lext"},
     };
     output.dividers = {
         dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),
@@ -116,7 +116,7 @@ PeripheralClock can()
         {CAN_CLOCK_SOURCE_PLL,  "pll",  ClockSource::Sclk, ClockSource::Sclk},
         {CAN_CLOCK_SOURCE_PCLK, "pclk", ClockSource::Apb1, ClockSource::Apb1},
     };
-    clock.x = 40;
+    clock.x = 30;
     clock.y = 515;
     return clock;
 }
