@@ -22,6 +22,17 @@ QString scrollBarSheet(const QString& extent)
         .arg(extent);
 }
 
+/// The picture as the screen can show it: with twice the pixels where its own are finer than the desktop's.
+QPixmap pictureFor(qreal pixelRatio, const QString& picture)
+{
+    if (pixelRatio <= 1.0)
+        return QPixmap(picture);
+    const int suffix = picture.lastIndexOf(QLatin1Char('.'));
+    // The suffix tells the reader of images that the logical size is half of the pixels.
+    const QPixmap fine(picture.left(suffix) + QLatin1String("@2x") + picture.mid(suffix));
+    return fine.isNull() ? QPixmap(picture) : fine;
+}
+
 } // namespace
 
 ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* parent)
@@ -37,7 +48,7 @@ ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* p
     m_GraphicsView->verticalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("width")));
     m_GraphicsView->horizontalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("height")));
 
-    auto* background = new QGraphicsPixmapItem(QPixmap(picture));
+    auto* background = new QGraphicsPixmapItem(pictureFor(devicePixelRatioF(), picture));
     background->setTransformationMode(Qt::SmoothTransformation);
     m_GraphicsScene->addItem(background);
     m_GraphicsView->SetPixMapItem(background);

@@ -52,7 +52,7 @@ constexpr int switchRight = 115;
 constexpr int resultRight = 196;
 constexpr int unitRight = 280;
 constexpr int firstSourceDown = 30;
-constexpr int sourcePitch = 20;
+constexpr int sourcePitch = 19;
 constexpr int radioBelowName = 2;
 
 void addPeripheral(Places& places, const PeripheralClock& clock)

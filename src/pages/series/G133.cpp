@@ -63,10 +63,10 @@ const Places& places()
         {"m_usbclock_Label",    920, 460},
 
         // The clock output
-        {"m_clockoutpin_Label",      93, 692}, {"m_clockoutpin_ComboBox",   88, 712},
-        {"m_clockoutdiv2_Label",    175, 692}, {"m_clockoutdiv2_ComboBox", 178, 712},
-        {"m_clockoutdiv1_Label",    265, 692}, {"m_clockoutdiv1_ComboBox", 268, 712},
-        {"m_clockout_Value_QLabel",  48, 742}, {"m_clockout_QLabel",       360, 807},
+        {"m_clockoutpin_Label",      93, 687}, {"m_clockoutpin_ComboBox",   88, 707},
+        {"m_clockoutdiv2_Label",    175, 687}, {"m_clockoutdiv2_ComboBox", 178, 707},
+        {"m_clockoutdiv1_Label",    265, 687}, {"m_clockoutdiv1_ComboBox", 268, 707},
+        {"m_clockout_Value_QLabel",  48, 737}, {"m_clockout_QLabel",       360, 810},
     };
     return table;
 }
@@ -94,14 +94,14 @@ ClockOutput clockOutput()
     output.pins = {{"PA8", CLKOUTPIN_PA8}, {"PA9", CLKOUTPIN_PA9}, {"PB13", CLKOUTPIN_PB13}, {"PC9", CLKOUTPIN_PC9}};
     output.column = {372, 430, 470, -2};
     output.rows = {
-        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  640, "sclk"},
-        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  660, "hext"},
-        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   680, "pll"},
-        {CLKOUT_USB,      "usb",     ClockSource::Usb,   700, "usb", RowGate::Usb},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  720, "hick"},
-        {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,   740, "adcclk", RowGate::None, 10},
-        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  760, "lick"},
-        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  780, "lext"},
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  643, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  663, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   683, "pll"},
+        {CLKOUT_USB,      "usb",     ClockSource::Usb,   703, "usb", RowGate::Usb},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  723, "hick"},
+        {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,   743, "adcclk", RowGate::None, 10},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  763, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  783, "lext"},
     };
     output.dividers = {
         dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),
@@ -115,7 +115,7 @@ ClockOutput clockOutput()
 constexpr int column1 = 30;
 constexpr int column2 = 352;
 constexpr int column3 = 674;
-constexpr int row1 = 515;
+constexpr int row1 = 508;
 constexpr int row2 = 640;
 constexpr int row3 = 745;
 

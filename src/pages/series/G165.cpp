@@ -65,10 +65,10 @@ const Places& places()
         {"m_usbclock_Label",    920, 460},
 
         // The clock output
-        {"m_clockoutpin_Label",      93, 692}, {"m_clockoutpin_ComboBox",   88, 712},
-        {"m_clockoutdiv2_Label",    175, 692}, {"m_clockoutdiv2_ComboBox", 178, 712},
-        {"m_clockoutdiv1_Label",    265, 692}, {"m_clockoutdiv1_ComboBox", 268, 712},
-        {"m_clockout_Value_QLabel",  48, 742}, {"m_clockout_QLabel",       360, 807},
+        {"m_clockoutpin_Label",      93, 687}, {"m_clockoutpin_ComboBox",   88, 707},
+        {"m_clockoutdiv2_Label",    175, 687}, {"m_clockoutdiv2_ComboBox", 178, 707},
+        {"m_clockoutdiv1_Label",    265, 687}, {"m_clockoutdiv1_ComboBox", 268, 707},
+        {"m_clockout_Value_QLabel",  48, 737}, {"m_clockout_QLabel",       360, 810},
     };
     return table;
 }
@@ -98,14 +98,14 @@ ClockOutput clockOutput()
     output.pinsByText = true;
     output.column = {372, 430, 470, -2};
     output.rows = {
-        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  640, "sclk"},
-        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  660, "hext"},
-        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   680, "pll"},
-        {CLKOUT_USBFS,    "usb",     ClockSource::Usb,   700, "usb", RowGate::Usb},
-        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   720, "adc"},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  740, "hick"},
-        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  760, "lick"},
-        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  780, "lext"},
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  643, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  663, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   683, "pll"},
+        {CLKOUT_USBFS,    "usb",     ClockSource::Usb,   703, "usb", RowGate::Usb},
+        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   723, "adc"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  743, "hick"},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  763, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  783, "lext"},
     };
     output.dividers = {
         dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),
@@ -125,7 +125,7 @@ PeripheralClock can(PeripheralClock clock, int x)
         {CAN_CLOCK_SOURCE_PCLK, "pclk", ClockSource::Apb1, ClockSource::Apb1},
     };
     clock.x = x;
-    clock.y = 515;
+    clock.y = 508;
     return clock;
 }
 

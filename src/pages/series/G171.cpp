@@ -63,10 +63,10 @@ const Places& places()
         {"m_usbclock_Label",    920, 460},
 
         // The clock output
-        {"m_clockoutpin_Label",      93, 692}, {"m_clockoutpin_ComboBox",   88, 712},
-        {"m_clockoutdiv2_Label",    175, 692}, {"m_clockoutdiv2_ComboBox", 178, 712},
-        {"m_clockoutdiv1_Label",    265, 692}, {"m_clockoutdiv1_ComboBox", 268, 712},
-        {"m_clockout_Value_QLabel",  48, 742}, {"m_clockout_QLabel",       360, 807},
+        {"m_clockoutpin_Label",      93, 687}, {"m_clockoutpin_ComboBox",   88, 707},
+        {"m_clockoutdiv2_Label",    175, 687}, {"m_clockoutdiv2_ComboBox", 178, 707},
+        {"m_clockoutdiv1_Label",    265, 687}, {"m_clockoutdiv1_ComboBox", 268, 707},
+        {"m_clockout_Value_QLabel",  48, 737}, {"m_clockout_QLabel",       360, 810},
     };
     return table;
 }
@@ -94,14 +94,14 @@ ClockOutput clockOutput()
     output.pins = {{"PA8", CLKOUTPIN_PA8}, {"PA9", CLKOUTPIN_PA9}, {"PB13", CLKOUTPIN_PB13}, {"PC9", CLKOUTPIN_PC9}};
     output.column = {372, 430, 470, -2};
     output.rows = {
-        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  640, "sclk"},
-        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  660, "hext"},
-        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   680, "pll"},
-        {CLKOUT_USBFS,    "usbfs",   ClockSource::Usb,   700, "usbfs", RowGate::Usb},
-        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   720, "adc"},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  740, "hick"},
-        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  760, "lick"},
-        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  780, "lext"},
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  643, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  663, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   683, "pll"},
+        {CLKOUT_USBFS,    "usbfs",   ClockSource::Usb,   703, "usbfs", RowGate::Usb},
+        {CLKOUT_ADCCLK,   "adc",     ClockSource::Adc,   723, "adc"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  743, "hick"},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  763, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  783, "lext"},
     };
     output.dividers = {
         dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),

@@ -57,10 +57,10 @@ const Places& places()
         {"m_toapb1tmr_mul",   1092, 284}, {"m_toapb2tmr_mul",       1092, 448},
 
         // The clock output
-        {"m_clockoutpin_Label",      93, 692}, {"m_clockoutpin_ComboBox",   88, 712},
-        {"m_clockoutdiv2_Label",    175, 692}, {"m_clockoutdiv2_ComboBox", 178, 712},
-        {"m_clockoutdiv1_Label",    265, 692}, {"m_clockoutdiv1_ComboBox", 268, 712},
-        {"m_clockout_Value_QLabel",  48, 742}, {"m_clockout_QLabel",       360, 807},
+        {"m_clockoutpin_Label",      93, 687}, {"m_clockoutpin_ComboBox",   88, 707},
+        {"m_clockoutdiv2_Label",    175, 687}, {"m_clockoutdiv2_ComboBox", 178, 707},
+        {"m_clockoutdiv1_Label",    265, 687}, {"m_clockoutdiv1_ComboBox", 268, 707},
+        {"m_clockout_Value_QLabel",  48, 737}, {"m_clockout_QLabel",       360, 810},
     };
     return table;
 }
@@ -90,13 +90,13 @@ ClockOutput clockOutput()
     output.pinsByText = true;
     output.column = {372, 430, 470, -2};
     output.rows = {
-        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  640, "sclk"},
-        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  660, "hext"},
-        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   680, "pll"},
-        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  700, "hick"},
-        {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,   720, "adcclk", RowGate::None, 10},
-        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  740, "lick"},
-        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  760, "lext"},
+        {CLKOUT_SCLK,     "sclk",    ClockSource::Sclk,  643, "sclk"},
+        {CLKOUT_HEXT,     "hext",    ClockSource::Hext,  666, "hext"},
+        {CLKOUT_PLL,      "pll",     ClockSource::Pll,   689, "pll"},
+        {CLKOUT_HICK,     "hick",    ClockSource::Hick,  712, "hick"},
+        {CLKOUT_ADCCLK,   "adcclk",  ClockSource::Adc,   735, "adcclk", RowGate::None, 10},
+        {CLKOUT_LICK,     "lick",    ClockSource::Lick,  758, "lick"},
+        {CLKOUT_LEXT,     "lext",    ClockSource::Lext,  781, "lext"},
     };
     output.dividers = {
         dividers::clockOutputFirst("New_clockoutdiv1", "m_clockoutdiv1", "clkoutdiv1", MODEL_FIELD(CLKOUT_Div1)),
@@ -117,7 +117,7 @@ PeripheralClock can()
         {CAN_CLOCK_SOURCE_PCLK, "pclk", ClockSource::Apb1, ClockSource::Apb1},
     };
     clock.x = 30;
-    clock.y = 515;
+    clock.y = 508;
     return clock;
 }
 // clang-format on
