@@ -21,6 +21,10 @@ private slots:
     void usbAndRtc() { run(); }
     void clockOutputs_data();
     void clockOutputs() { run(); }
+    void modes_data();
+    void modes() { run(); }
+    void peripherals_data();
+    void peripherals() { run(); }
     void settingASelectorByProgram();
     void paintsByTheModel();
 
@@ -32,11 +36,11 @@ namespace {
 
 // The fields of a row: series, steps, boxes each with the button that is pressed, what shows in the end.
 const QHash<QString, QString> boxes{
-    {QStringLiteral("hext"),  errorBox(QStringLiteral("hext input error!"))                        },
-    {QStringLiteral("sclk"),  errorBox(QStringLiteral("sclk input error!"))                        },
-    {QStringLiteral("input"), errorBox(QStringLiteral("pll input clock source range 2-16MHz!"))    },
-    {QStringLiteral("ms"),    errorBox(QStringLiteral("pll_ms input error!"))                      },
-    {QStringLiteral("ns"),    errorBox(QStringLiteral("pll_ns input error!"))                      },
+    {QStringLiteral("hext"),    errorBox(QStringLiteral("hext input error!"))                      },
+    {QStringLiteral("sclk"),    errorBox(QStringLiteral("sclk input error!"))                      },
+    {QStringLiteral("input"),   errorBox(QStringLiteral("pll input clock source range 2-16MHz!"))  },
+    {QStringLiteral("ms"),      errorBox(QStringLiteral("pll_ms input error!"))                    },
+    {QStringLiteral("ns"),      errorBox(QStringLiteral("pll_ns input error!"))                    },
     {QStringLiteral("ms?"),
      QStringLiteral("question | Warning | pll_ms input error, is it adjusted automatically?\nThe following "
                     "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz | Cancel, Yes")  },
@@ -44,6 +48,10 @@ const QHash<QString, QString> boxes{
      QStringLiteral(
          "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following "
          "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1200MHz | Cancel, Yes")},
+    {QStringLiteral("ns1000?"),
+     QStringLiteral(
+         "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following "
+         "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1000MHz | Cancel, Yes")},
 };
 
 } // namespace
@@ -257,7 +265,32 @@ void TestEdits::usbAndRtc_data()
         "HICK_TO_USB: 1",
         "G150 | sclkselect_hick tousbswitch=enable usbdiv=/2.5 | | usbclock_Label: 48.000 MHz; pllclk_Label: "
         "120.000MHz",
+        // Here USB moves a PLL that drives the system clock, once it is switched on or put back to it.
+        "G110R G114 | tousbswitch=enable | | sclk_lineEdit: 192.000; usbclock_Label?: 48.000 MHz darkGreen",
+        "G110R | tousbswitch=enable tousb_hick sclk_lineEdit=240 | | sclk_lineEdit: 240.000; "
+        "usbclock_Label?: "
+        "48.000 MHz darkGreen",
+        "G110R | tousbswitch=enable tousb_hick sclk_lineEdit=240 tousb_pll | | sclk_lineEdit: 192.000; "
+        "usbdiv_ComboBox: /4",
+        "G120 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: 192.000",
+        "G135 | pllmode=flexible sclkselect_hick tousbswitch=enable usbdiv=/3 | | usbclock_Label?: 48.000 "
+        "MHz "
+        "darkGreen; pllmult_ComboBox: * 12; pllfr_ComboBox: /4",
+        "G125 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: 144.000",
+        // Red, and right.
+        "G133 H133 | tousbswitch=enable | | usbclock_Label?: 50.000 MHz red; sclk_lineEdit: 150.000",
+        "G165 G166 G167 | tousbswitch=enable | | usbclock_Label?: 72.000 MHz red; sclk_lineEdit: 192.000",
+        "G171 G174 G190 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; PLL_FU: 18",
+        "G171 | tousbswitch=enable pllfu=/13 | | usbclock_Label?: 66.462 MHz red; sclk_lineEdit: 216.000; "
+        "PLL_FU: 13",
+        "G171 | sclkselect_hick tousbswitch=enable pllfu=/13 | | usbclock_Label?: 48.000 MHz darkGreen; "
+        "pllfu_ComboBox: /13",
+        "G133 | tousbswitch=enable tousb_hick | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: "
+        "150.000",
         "G110 | tortc=enable | | tortc_lineEdit?: 40 darkGreen; ToRTC_Switch: 1",
+        "G130 | tortc=enable rtcsel_hext | | tortc_lineEdit: 250.000",
+        "G125 G135 D042 G142 | tortc=enable rtcsel_hext | | tortc_lineEdit: 62.500",
+        "G165 | tortc=enable rtcsel_hext rtcdiv=/31 | | tortc_lineEdit: 258.065",
         "G110 | tortc=enable rtcsel_lext | | tortc_lineEdit: 32.768; RTCSEL: 1",
         "G110 | tortc=enable rtcsel_hext hext_lineEdit=10 | | tortc_lineEdit: 78.125",
         "G110 | tortc=enable rtcsel_hext tortc=disable | | tortc_lineEdit?: 0 gray",
@@ -305,6 +338,31 @@ void TestEdits::clockOutputs_data()
         "G150 | clockout2pin=PC9 tousbswitch=enable clockout2_usb | | clockout2_Value_QLabel: (48.000 MHz); "
         "CLKOUT2: 3",
         "G150 | clockout2pin=PC9 clockout2_adcclk | | clockout2_adcclk_QLabel: ; clockout2_Value_QLabel: ",
+        "G110R G125 G130 G135 G142 | clockoutpin=PA8 clockout_lick clockoutdiv=/4 | | clockout_lick_QLabel: "
+        "(40.000 kHz); clockout_Value_QLabel: (10.000 kHz)",
+        // lext shows while the RTC uses it.
+        "G110R G120 G125 G142 | clockoutpin=PA8 clockout_lext | | clockout_lext_QLabel: ; "
+        "clockout_Value_QLabel: ",
+        "G110R | tortc=enable rtcsel_lext clockoutpin=PA8 clockout_lext | | clockout_Value_QLabel: (32.768 "
+        "kHz)",
+        "D042 | clockoutpin=PB13 clockout_lext | | clockout_Value_QLabel: (32.768 kHz); CLKOUT_PinSelect: 3",
+        "G110R G130 | clockoutpin=PA8 clockout_hick | | clockout_hick_QLabel: (8.000 MHz)",
+        "G110R G130 | clockoutpin=PA8 clockout_hick pllrcs_hick | | clockout_hick_QLabel: (48.000 MHz)",
+        "G110R | clockoutpin=PA8 clockout_hick tousbswitch=enable tousb_hick clockoutdiv=/2 | | "
+        "clockout_Value_QLabel: (24.000 MHz)",
+        "D042 P212 G165 | clockoutpin=PA9 clockout_hick | | clockout_hick_QLabel: (48.000 MHz)",
+        "G133 G171 | clockoutpin=PA9 clockout_hick | | clockout_hick_QLabel: (8.000 MHz)",
+        "G133 G171 | clockoutpin=PA9 clockout_hick tousbswitch=enable tousb_hick | | clockout_hick_QLabel: "
+        "(48.000 MHz)",
+        "G133 | clockoutpin=PC9 clockoutdiv1=/2 clockoutdiv2=/4 | | clockout_Value_QLabel: (18.750 MHz); "
+        "CLKOUT_PinSelect: 4",
+        "G133 | clockoutpin=PA8 clockout_pll | | clockout_pll_QLabel: (300.000 MHz); CLKOUT: 10",
+        "G165 | clockoutpin=PE4 clockout_adc | | clockout_adc_QLabel: (0.000 MHz); CLKOUT_PinSelect: 6; "
+        "CLKOUT: 7",
+        "P212 | clockoutpin=PF2 | | CLKOUT_PinSelect: 5; CLKOUT: 5",
+        "G171 | clockoutpin=PA8 tousbswitch=enable clockout_usbfs | | CLKOUT: 11",
+        "G171 | clockoutpin=PA8 tousbswitch=enable clockout_usbfs tousbswitch=disable | | CLKOUT: 5",
+        "G165 | clockoutpin=PA8 tousbswitch=enable clockout_usb tousbswitch=disable | | CLKOUT: 5",
         // A source that is switched off makes room.
         "G110 | clockoutpin=PA8 tousbswitch=enable clockout_usb tousbswitch=disable | | CLKOUT: 0; "
         "clockout_Value_QLabel: ",
@@ -314,6 +372,106 @@ void TestEdits::clockOutputs_data()
         "G110 | clockoutpin=PA8 toadcswitch=enable clockout_adcclk toadcswitch=disable | | CLKOUT: 0",
         "G150 G152 | clockout2pin=PC9 tousbswitch=enable clockout2_usb tousbswitch=disable | | CLKOUT2: 4; "
         "clockout2_hick_QLabel: (8.000 MHz)",
+    });
+}
+
+void TestEdits::modes_data()
+{
+    rows({
+        // A change of mode searches for the system clock that stands there.
+        "G125 TQ125 | pllmode=flexible | | sclk_lineEdit: 144.000; pllms_lineEdit: /1; pllns_lineEdit: *72; "
+        "pllfr_ComboBox: /4; pllCFG_Value_lineEdit: 0x00421201",
+        "G142 G146 | pllmode=flexible | | sclk_lineEdit: 200.000; pllns_lineEdit: *100; pllfr_ComboBox: /4",
+        "G130 | pllmode=flexible | | sclk_lineEdit: 120.000; ConfigMode: 1",
+        "G135 | pllmode=flexible sclk_lineEdit=50 pllmode=normal | | sclk_lineEdit: 48.000; "
+        "pllmult_ComboBox: "
+        "* 6",
+        "D042 | hext_lineEdit~3 pllmode=flexible | hext:Ok | ConfigMode: 1; sclk_lineEdit: 80.000; PLL_NS: "
+        "80",
+        "G125 | sclk_lineEdit~999 pllmode=flexible | sclk:Ok | ConfigMode: 1; PLL_NS: 72",
+        "G125 | pllmode=flexible pllns_lineEdit~80 | | pllns_lineEdit?: *80 black pale; PLL_NS: 72",
+        "G125 | pllmode=flexible pllns_lineEdit=126 | ns1000?:Yes | pllns_lineEdit: *125; sclk_lineEdit: "
+        "250.000",
+        "G133 | pllns_lineEdit=126 | ns1000?:Yes | pllns_lineEdit: *125; sclk_lineEdit: 250.000",
+        "G165 | pllns_lineEdit=151 | ns?:Yes | pllns_lineEdit: *150",
+        "G171 | pllns_lineEdit=126 | ns1000?:Cancel | pllns_lineEdit: *126; PLL_NS: 108",
+        // The lower limit counts in the normal mode alone; the limit itself is good.
+        "G125 D042 | sclk_lineEdit=4 | | pllclk_Label?: 16.000MHz darkGreen",
+        "G125 D042 | pllrcs_hick sclk_lineEdit=8 | | pllclk_Label?: 8.000MHz red; sclk_lineEdit: 8.000",
+        "G125 | pllmode=flexible sclk_lineEdit=4 | | pllclk_Label?: 15.625MHz darkGreen",
+        "G130 | sclk_lineEdit=120.001 | sclk:Ok | sclk_lineEdit?: 120.001 red pale",
+        // Pre-dividers. The typed clock is kept behind that of the PLL.
+        "G110R | sclk_lineEdit=100 pllhext_div hextdiv=/4 | | sclk_lineEdit: 104.000; HEXT_DIV: 4; "
+        "pllmult_ComboBox: * 52",
+        "G110R H110R | pllhext_div hextdiv=/5 | input:Ok | hext_lineEdit?: 10.000 black green; HEXT_DIV: 5",
+        "G120 | pllhext_div | | sclk_lineEdit: 200.000; pllmult_ComboBox: * 50",
+        "G133 P212 G171 G165 | sclkselect_hext hextdiv=/4 | | sclk_lineEdit: 2.000; HEXT_DIV: 4",
+        "G133 P212 G171 G165 | sclkselect_hick hickdiv=/16 | | sclk_lineEdit: 0.500; SCLKHICK_DIV: 16",
+        "G133 P212 G171 G165 | sclkselect_hick hicktosclk hickdiv=/2 | | sclk_lineEdit: 24.000",
+        "G171 | pllfp=/8 | | sclk_lineEdit: 108.000; PLL_FP: 8",
+        "G171 | hext_lineEdit~3 pllfp=/8 | hext:Ok | PLL_FP: 4; pllfp_ComboBox: /8",
+        "G133 P212 G165 | sclk_lineEdit=3 | | PLLRC: 0",
+        // A wanted clock that cannot be searched for is stored, and the buses stay.
+        "G133 | hext_lineEdit~3 sclk_lineEdit=100 | hext:Ok | SYSCLKValue: 100; AHBCLKValue: 150",
+        "G133 G171 | apb1div=/1 | | apb1div_ComboBox: /2; APB1DIV: 2",
+        "G142 | apb3div=/2 | | toapb3peripheral_lineEdit?: 100.000 red",
+        "G165 | apb3div=/1 | | toapb3peripheral_lineEdit?: 192.000 red",
+        "G166 G167 | apb3div=/1 | | toapb3peripheral_lineEdit?: 192.000 darkGreen",
+        "P212 | apb3div=/1 | | toapb3peripheral_lineEdit?: 180.000 red",
+    });
+}
+
+void TestEdits::peripherals_data()
+{
+    rows({
+        // The second USART is written by the switch of the first.
+        "D042 | usart2switch=enable | | tousart2_lineEdit: ; USART2_Switch: 1",
+        "D042 | apb2div=/2 usart2switch=enable usart1switch=enable | | tousart1_lineEdit?: 40.000 darkGreen; "
+        "tousart2_lineEdit?: 80.000 darkGreen; tousart2_Label: (MHz)",
+        "D042 | usart1switch=enable | | tousart2_lineEdit: 80.000; USART2_Switch: 0",
+        "D042 | usart1switch=enable usart1clocksel_hick48 | | tousart1_lineEdit?: 48.000 darkGreen; "
+        "usart1_Clock_Source: 2",
+        "D042 | usart1switch=enable usart1clocksel_lext | | tousart1_lineEdit: 32.768; tousart1_Label: "
+        "(kHz); "
+        "usart1_Clock_Source: 3",
+        "D042 | i2c1switch=enable i2c1clocksel_hick48 | | toi2c1_lineEdit: 48.000; i2c1_Clock_Source: 2",
+        "D042 | i2c1switch=enable pllmult=*_11 | | toi2c1_lineEdit?: 88.000 red",
+        "D042 | i2c1switch=enable i2c1switch=disable sclk_lineEdit=40 | | toi2c1_lineEdit: 80.000; "
+        "I2C1_Switch: 0",
+        // Red looks at 180 where the page allows 200, and at the system clock where "pll" is shown.
+        "G142 G146 | canswitch=enable canclocksel_pll | | tocan_lineEdit?: 200.000 red; can1_Clock_Source: 1",
+        "G142 | canswitch=enable canclocksel_hext | | tocan_lineEdit?: 8.000 darkGreen; can1_Clock_Source: 0",
+        "G142 | canswitch=enable apb1div=/2 | | tocan_lineEdit?: 100.000 darkGreen; can1_Clock_Source: 2",
+        "P212 P216 | canswitch=enable canclocksel_pll | | tocan_lineEdit?: 180.000 darkGreen; tocan_Label: "
+        "(MHz)",
+        "G133 | usart1switch=enable usart1clocksel_hick | | tousart1_lineEdit?: 8.000 darkGreen; "
+        "usart1_Clock_Source: 4",
+        "G133 | usart1switch=enable usart1clocksel_hick tousbswitch=enable tousb_hick | | tousart1_lineEdit: "
+        "48.000",
+        "G133 | usart1switch=enable usart2switch=enable usart3switch=enable | | tousart1_lineEdit: 150.000; "
+        "tousart2_lineEdit: 75.000; tousart3_lineEdit: 75.000",
+        "G133 | usart3switch=enable usart3clocksel_lext | | tousart3_lineEdit: 32.768; tousart3_Label: "
+        "(kHz); "
+        "usart3_Clock_Source: 3",
+        "G133 | i2c1switch=enable i2c1clocksel_hick | | toi2c1_lineEdit: 8.000; i2c1_Clock_Source: 3",
+        "G133 | adcswitch=enable adcclocksel_pllclk | | toadc_lineEdit?: 300.000 darkGreen; "
+        "adc_Clock_Source: "
+        "1",
+        "G133 | adcswitch=enable pllns_lineEdit=80 adcclocksel_pllclk | | toadc_lineEdit?: 320.000 red",
+        "G133 | adcswitch=enable pllns_lineEdit=80 | | toadc_lineEdit?: 160.000 darkGreen",
+        "G171 | i2sf5switch=enable | | toi2sf5_lineEdit?: 216.000 darkGreen; i2sf5_Clock_Source: 0",
+        "G171 | i2sf5switch=enable pllns_lineEdit=110 | | toi2sf5_lineEdit?: 220.000 red",
+        "G171 | i2sf5switch=enable i2sf5clocksel_hick | | toi2sf5_lineEdit: 8.000; i2sf5_Clock_Source: 2",
+        "G165 | i2sf5switch=enable i2sf5clocksel_hick | | toi2sf5_lineEdit: 48.000",
+        "G165 G171 | i2sf5switch=enable i2sf5clocksel_external | | toi2sf5_lineEdit?: Actual value "
+        "darkGreen; "
+        "i2sf5_Clock_Source: 3",
+        "G165 | can2switch=enable can2clocksel_pllu | | tocan2_lineEdit?: 72.000 darkGreen; "
+        "can2_Clock_Source: "
+        "1",
+        // By the system clock, not by the clock shown.
+        "G165 | can1switch=enable can1clocksel_pllu pllns_lineEdit=148 | | tocan1_lineEdit?: 74.000 red",
+        "G165 | can3switch=enable can3clocksel_pclk apb1div=/2 | | tocan3_lineEdit?: 96.000 darkGreen",
     });
 }
 

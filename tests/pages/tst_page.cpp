@@ -27,7 +27,7 @@ const char* const blocks[] = {
     "hext hext_lineEdit hext_Label1 hextbypass_ComboBox hext_In",
     "pll pllrcs_hext_RadioButton pllrcs_hick_RadioButton pllrc_Label pllmult_ComboBox pllms_lineEdit "
     "pllns_lineEdit "
-    "pllns_Label2 pllfr_ComboBox pllCFG_Value_lineEdit pllclk_Label",
+    "pllns_Label2 pllfr_ComboBox pllfp_ComboBox pllCFG_Value_lineEdit pllclk_Label pllmode_ComboBox",
     "pllhextdiv pllhext_nodiv_RadioButton pllhext_div_RadioButton pllhextdiv_Label",
     "usb usbclock_Label tousb_pll_RadioButton tousb_hick_RadioButton hicktousb_Label",
     "usbdiv usbdiv_ComboBox usbdiv_Label",
@@ -46,6 +46,13 @@ const char* const blocks[] = {
     "out2 clockout2_sclk_RadioButton clockout2_lext_QLabel1 clockout2div1_ComboBox clockout2div2_Label "
     "clockout2_Value_QLabel clockout2_QLabel",
     "out2usb clockout2_usb_RadioButton clockout2_usb_QLabel1",
+    "hextdiv hextdiv_ComboBox hextdiv_Label",
+    "hickdiv hickdiv_ComboBox hickdiv_Label",
+    "rtcdiv rtcdiv_ComboBox rtcdiv_Label",
+    "fu pllfu_ComboBox pllfu_Label",
+    "can canclocksel_hext_RadioButton canclocksel_pclk_QLabel canclocksel_Label tocan_lineEdit",
+    "can2 can2clocksel_hext_RadioButton can2clocksel_pllu_QLabel tocan2_lineEdit tocan2_Label",
+    "usart1 usart1clocksel_pclk_RadioButton usart1clocksel_Label tousart1_lineEdit",
 };
 
 /// Counts what makes a pass slow.
@@ -89,6 +96,29 @@ void TestPage::enabledBlocks_data()
         "G110 | sclkselect_hick tortc=enable rtcsel_hext | hext rtc",
         "G110 | sclkselect_hick tortc=enable rtcsel_hext tortc=disable |",
         "G110 | sclkselect_hick tortc=enable rtcsel_lext tortc=disable |",
+        // The divider of hext is live while hext passes it on the way to the PLL.
+        "G110R | | hext pll pllhextdiv sclk",
+        "G110R | pllhext_div | hext pll pllhextdiv hextdiv sclk",
+        "G110R | pllhext_div pllrcs_hick | pll sclk",
+        "G110R | pllhext_div sclkselect_hick | hicktosclk",
+        "G110R | sclkselect_hick tousbswitch=enable tousb_hick | usb hicktosclk",
+        "G110R | sclkselect_hick tousbswitch=enable | hext pll pllhextdiv usb usbdiv hicktosclk",
+        "G130 | sclkselect_hick clockoutpin=PA8 clockout_plldiv2 | hext pll pllhextdiv hicktosclk out",
+        "G125 | pllmode=flexible | hext pll pllhextdiv sclk",
+        "G125 | pllmode=flexible sclkselect_hick | hicktosclk",
+        "G133 | sclkselect_hext | hext hextdiv",
+        "G133 | sclkselect_hick | hicktosclk hickdiv",
+        "G133 | sclkselect_hick tortc=enable rtcsel_hext | hext hicktosclk hickdiv rtc rtcdiv",
+        "G165 | | hext pll sclk",
+        "G165 | tousbswitch=enable | hext pll fu sclk usb",
+        "G165 | tousbswitch=enable tousb_hick | hext pll sclk usb",
+        "G165 | can2switch=enable | can2 hext pll sclk",
+        "G165 | can2switch=enable can2clocksel_pllu | can2 fu hext pll sclk",
+        // A peripheral makes neither the PLL nor hext count as used.
+        "G165 | sclkselect_hick can2switch=enable can2clocksel_pllu | can2 fu hicktosclk hickdiv",
+        "P212 | sclkselect_hick canswitch=enable canclocksel_hext | can hicktosclk hickdiv",
+        "G142 | canswitch=enable canswitch=disable | hext pll pllhextdiv sclk",
+        "D042 | sclkselect_hick usart1switch=enable | hicktosclk usart1",
         "G150 G152 | | hext pll sclk",
         "G150 | sclkselect_hick | hicktosclk",
         "G150 | sclkselect_hick tousbswitch=enable | hext pll usb usbdiv hicktosclk",
@@ -100,7 +130,7 @@ void TestPage::enabledBlocks_data()
         "G150 | sclkselect_hick clockout2pin=PC9 clockout2_hext | hext hicktosclk out2",
         "G150 | sclkselect_hick clockout2pin=PC9 clockout2_pll | hext pll hicktosclk out2",
         "G150 | sclkselect_hick tousbswitch=enable tousb_hick clockout2pin=PC9 | usb hicktosclk out2 out2usb",
-        "G150 | sclkselect_hick tortc=enable rtcsel_hext | hext hicktosclk rtc",
+        "G150 | sclkselect_hick tortc=enable rtcsel_hext | hext hicktosclk rtc rtcdiv",
     });
 }
 

@@ -91,7 +91,10 @@ void TestPictures::fitTheirPages()
             if (inFront.contains(control.name))
                 continue;
             const bool radio = control.kind == ControlKind::Radio;
-            const QString other = otherPixel(picture, control.rect, radio ? muxGround : qRgb(255, 255, 255));
+            // Behind the last letter of a label there is room to spare.
+            const QRectF rect =
+                control.kind == ControlKind::Label ? control.rect.adjusted(0, 0, -2, 0) : control.rect;
+            const QString other = otherPixel(picture, rect, radio ? muxGround : qRgb(255, 255, 255));
             QVERIFY2(other.isEmpty(), qPrintable(control.name + QLatin1String(": ") + other));
         }
     }

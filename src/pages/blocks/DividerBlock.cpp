@@ -71,6 +71,9 @@ void DividerBlock::ShowPllMode(bool flexible)
 
 void DividerBlock::ComboBox_currentIndexChanged(int index)
 {
+    // A divisor from a design file may have no item: the box then shows nothing, and nobody chose anything.
+    if (index < 0)
+        return;
     if (m_divider.effect == DividerEffect::HextThenPll && !tree().readHextForPll())
         return;
     m_divider.field.set(model(), valueAt(m_divider.divisors, index));
