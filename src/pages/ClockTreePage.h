@@ -64,6 +64,7 @@ private:
     // What the blocks ask.
 
     ZN64ConfigCLK& clocks() const override { return const_cast<ClockTreePage*>(this)->model(); }
+    bool normalMode() const override { return model().Get_ConfigMode() == PLLMODE_NORMAL; }
     bool rtcOn() const override;
     bool rtcFromLext() const override;
     bool rtcFromHext() const override;

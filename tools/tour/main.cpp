@@ -17,6 +17,7 @@ int main(int argc, char** argv)
     firstSeries(tour);
     flexibleSeries(tour);
     inChinese(tour);
+    everySeries(tour);
     closing(tour);
     std::printf("tour: done; screenshots and generated files are in %s\n", qPrintable(folder));
     return 0;

@@ -8,6 +8,8 @@ void withoutDesign(Tour& tour);
 void firstSeries(Tour& tour);
 /// The series with the flexible PLL and two clock outputs, from New to generated code and the preview.
 void flexibleSeries(Tour& tour);
+/// The page of every series, from its start design: as it opens, and with all that can be switched on.
+void everySeries(Tour& tour);
 /// The same windows in Chinese.
 void inChinese(Tour& tour);
 /// The question on closing the window.

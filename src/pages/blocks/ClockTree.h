@@ -42,7 +42,7 @@ public:
     /// What hick gives to outputs at present, MHz.
     virtual double hickAtOutputs() const = 0;
     /// Whether the PLL is in its normal mode, by a multiplier.
-    bool normalMode() const { return clocks().Get_ConfigMode() == PLLMODE_NORMAL; }
+    virtual bool normalMode() const = 0;
     /// While a whole design is taken over, from a file or at the reset, typed values pass as they are, nobody
     /// is told, and nothing is solved: the design's own numbers stand.
     virtual bool takingDesign() const = 0;
