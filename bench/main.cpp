@@ -17,14 +17,21 @@ namespace {
 constexpr int constructions = 15;
 constexpr int quickRuns = 51;
 
-/// Return in the system clock field, with another wanted clock each time.
+/// Return in the system clock field, with the highest clock or one well below it.
+void commitSysclk(ClockTreePage& page, bool high)
+{
+    auto* edit = page.findChild<QLineEdit*>(QStringLiteral("m_sclk_lineEdit"));
+    const double top = page.model().GetSYSCLKValidMaxValue();
+    edit->setText(QString::number(high ? top : top * 2.0 / 3.0, 'f', 3));
+    emit edit->returnPressed();
+}
+
+/// Another wanted clock each time.
 void commitSysclk(ClockTreePage& page)
 {
     static bool high = false;
     high = !high;
-    auto* edit = page.findChild<QLineEdit*>(QStringLiteral("m_sclk_lineEdit"));
-    edit->setText(high ? QStringLiteral("144") : QStringLiteral("96"));
-    emit edit->returnPressed();
+    commitSysclk(page, high);
 }
 
 /// The edit's counterpart in plain Qt: as many texts changed.
@@ -75,6 +82,52 @@ void benchEdits(ClockTreePage& page, const BarePage& bare)
     figures::print("pass that changes nothing",
                    figures::median(quickRuns, [&] { static_cast<ClockTree&>(page).UpdateResultControls(); }),
                    "setText on every edit", texts);
+}
+
+/// A step of the wheel and a step of a drag, painted on a full screen.
+void benchView(ClockTreePage& page)
+{
+    page.resize(1920, 1080);
+    page.show();
+    QApplication::processEvents();
+    PinGraphicsView* view = page.view();
+    const double repaint = figures::median(quickRuns, [&] { view->viewport()->repaint(); });
+    bool in = false;
+    figures::print("zoom step, painted",
+                   figures::median(quickRuns,
+                                   [&] {
+                                       in = !in;
+                                       in ? page.ZoomIn() : page.ZoomOut();
+                                       view->viewport()->repaint();
+                                   }),
+                   "a repaint", repaint);
+    view->zoom(2.0F);
+    double way = 5.0;
+    figures::print("pan step, painted",
+                   figures::median(quickRuns,
+                                   [&] {
+                                       way = -way;
+                                       view->translate(QPointF(way, way));
+                                       view->viewport()->repaint();
+                                   }),
+                   "a repaint", repaint);
+    page.ZoomReset();
+}
+
+/// On a page with both modes of the PLL: an edit that runs the flexible solver.
+void benchFlexibleEdit(ClockTreePage& page)
+{
+    auto* mode = page.findChild<QComboBox*>(QStringLiteral("m_pllmode_ComboBox"));
+    if (!mode)
+        return;
+    const double normal = figures::median(quickRuns, [&] { commitSysclk(page); });
+    // The multiplier may have missed the highest clock upward, which a change of mode would refuse.
+    commitSysclk(page, false);
+    mode->setCurrentIndex(PLLMODE_FLEXIBLE);
+    figures::print("edit, flexible mode", figures::median(quickRuns, [&] { commitSysclk(page); }),
+                   "in normal mode", normal);
+    commitSysclk(page, false);
+    mode->setCurrentIndex(PLLMODE_NORMAL);
 }
 
 void benchGeneration(ClockTreePage& page, const QString& folder)
@@ -129,6 +182,8 @@ void benchSeries(ZN64MCUSERIALS series, const QString& folder)
     figures::print("opening a design", times[2], "construction", times[1]);
     other.reset();
     benchEdits(*page, bare);
+    benchFlexibleEdit(*page);
+    benchView(*page);
     benchGeneration(*page, folder);
 }
 
