@@ -238,7 +238,8 @@ int main(int argc, char* argv[])
     const QSet<QString> idle = told - asked;
     if (!idle.isEmpty())
         fail(QStringLiteral("no source asks for: ") + idle.values().join(QStringLiteral(", ")));
-    write(target.filePath(QStringLiteral("templates.qrc")),
-          QStringLiteral("<RCC>\n    <qresource prefix=\"/image\">\n%1    </qresource>\n</RCC>\n").arg(files));
+    write(
+        target.filePath(QStringLiteral("templates.qrc")),
+        QStringLiteral("<RCC>\n    <qresource prefix=\"/image\">\n%1    </qresource>\n</RCC>\n").arg(files));
     return EXIT_SUCCESS;
 }
