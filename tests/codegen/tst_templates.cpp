@@ -1,0 +1,147 @@
+#include "model/seriestraits.h"
+#include "pages/series/seriespages.h"
+#include "testdata.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+
+namespace {
+QByteArray templateOf(const QString& stem, const char* ending)
+{
+    return contentOf(QStringLiteral(":/image/%1_%2").arg(stem, QLatin1String(ending)));
+}
+
+/// A line behind every opening marker, by which a kept section is known again.
+QString withProbes(QString text, int& count)
+{
+    const QRegularExpression opening(QStringLiteral(R"(\[#[^\]]+\]\n)"));
+    for (auto match = opening.match(text); match.hasMatch(); match = opening.match(text, match.capturedEnd()))
+        text.insert(match.capturedEnd(), QStringLiteral("/* probe %1 */\n").arg(count++));
+    return text;
+}
+
+void collectProbes(const QString& text, QSet<int>& kept)
+{
+    static const QRegularExpression probe(QStringLiteral(R"(/\* probe (\d+) \*/)"));
+    for (auto each = probe.globalMatch(text); each.hasNext();)
+        kept += each.next().captured(1).toInt();
+}
+
+/// All that generates code switched on; what excludes one another is thrown by the numbers of the round.
+void switchOn(ZN64ConfigCLK& clock, int sclk, int mode, int rtc, bool hickToUsb)
+{
+    clock.Set_SYSCLKSelect(sclk);
+    clock.Set_ConfigMode(static_cast<PLLCONFIGMODE>(mode));
+    clock.Set_RTCSEL(static_cast<RTCSEL>(rtc));
+    clock.Set_HICK_TO_USB(hickToUsb);
+    clock.Set_SYSCLKValue(mode == 0 ? 120.0 : 180.0);
+    clock.Set_HICK_TO_SCLK(HICK_TO_SCLK_NODIV);
+    clock.Set_TO_USB_Switch(TO_USB_SWITCH_ENABLE);
+    clock.Set_PLLRC(PLLRC_HEXT);
+    clock.Set_PLLHEXTDIV(PLLHEXT_DIV);
+    clock.Set_Hext_Bypass_Value(true);
+    clock.Set_Lext_Bypass_Value(true);
+    clock.Set_CLKOUT_PinSelect(CLKOUTPIN_PA8);
+    clock.Set_CLKOUT1_PinSelect(CLKOUT1PIN_PA8);
+    clock.Set_CLKOUT2_PinSelect(CLKOUT2PIN_PC9);
+    clock.Set_ToRTC_Switch(true);
+    clock.Set_ToADC_Switch(true);
+    clock.Set_I2C1_Switch(true);
+    clock.Set_I2SF5_Switch(true);
+    clock.Set_CAN1_Switch(true);
+    clock.Set_can1_Clock_Source(CAN_CLOCK_SOURCE_PLL);
+    clock.Set_USART1_Switch(true);
+    clock.Set_usart1_Clock_Source(USART_CLOCK_SOURCE_LEXT);
+}
+} // namespace
+
+/// The templates against the chains that edit them: what one looks for, the other must hold, and no more.
+class TemplatesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startDesignIsWritten_data() { seriesRows(); }
+    void startDesignIsWritten()
+    {
+        QFETCH(int, series);
+        const QScopedPointer<ClockTreePage> page(
+            createSeriesPage(static_cast<ZN64MCUSERIALS>(series), nullptr));
+        const QString stem = QLatin1String(page->description().stem);
+        const QTemporaryDir folder;
+        page->model().Set_GenerateCodeMode(MODE_CODE_VIEW);
+        QVERIFY(page->model().GenerateCode(folder.path(), folder.path(), stem));
+        for (const QString& file :
+             {stem + "_clock.c"_s, stem + "_clock.h"_s, stem + "_conf.h"_s, "main.c"_s}) {
+            const QByteArray text = contentOf(folder.filePath(file));
+            QVERIFY2(text.count('\n') > 20, qPrintable(file));
+            QVERIFY2(!text.contains("[#") && !text.contains("[/#"), qPrintable(file));
+            QVERIFY2(!text.contains('\r') && !text.contains("\n\n\n"), qPrintable(file));
+        }
+    }
+
+    void everySectionIsKeptBySomeDesign_data() { seriesRows(); }
+    void everySectionIsKeptBySomeDesign()
+    {
+        QFETCH(int, series);
+        const QScopedPointer<ClockTreePage> page(
+            createSeriesPage(static_cast<ZN64MCUSERIALS>(series), nullptr));
+        const QString stem = QLatin1String(page->description().stem);
+        int count = 0;
+        const QString clockSource =
+            withProbes(QString::fromUtf8(templateOf(stem, "clock.c")).remove(u'\r'), count);
+        const QString mainSource =
+            withProbes(QString::fromUtf8(templateOf(stem, "main.c")).remove(u'\r'), count);
+        QVERIFY(count > 15);
+        QSet<int> kept;
+        for (int round = 0; round < 36; ++round) {
+            ZN64ConfigCLK clock = page->model();
+            switchOn(clock, round % 3, round / 3 % 2, round / 6 % 3, round >= 18);
+            QString text = clockSource;
+            QVERIFY(clock.GenerateClockSource(text));
+            QString mainText = mainSource;
+            QVERIFY(clock.GenerateMainSource(mainText));
+            text += mainText;
+            QVERIFY2(!text.contains("[#"_s) && !text.contains("[/#"_s), qPrintable(text));
+            collectProbes(text, kept);
+        }
+        for (int probe = 0; probe < count; ++probe) {
+            const QString both = clockSource + mainSource;
+            const int at = both.indexOf(QStringLiteral("/* probe %1 */").arg(probe));
+            QVERIFY2(kept.contains(probe), qPrintable(both.left(at).section(u'\n', -2, -2)));
+        }
+    }
+
+    /// A lone CR or LF would show up in the generated files only on another system.
+    void lineEndsAreOfOneKind()
+    {
+        int withLf = 0;
+        QSet<QString> stems;
+        for (const SeriesTraits& traits : seriesList()) {
+            const QScopedPointer<ClockTreePage> page(createSeriesPage(traits.series, nullptr));
+            stems += QLatin1String(page->description().stem);
+        }
+        QCOMPARE(stems.size(), 17);
+        for (const QString& stem : stems)
+            for (const char* ending : {"clock.c", "clock.h", "conf.h", "main.c"}) {
+                const QByteArray text = templateOf(stem, ending);
+                const bool lf = !text.contains('\r');
+                QVERIFY2(lf || text.count('\n') == text.count("\r\n"), qPrintable(stem));
+                QVERIFY2(!lf || qstrcmp(ending, "conf.h") == 0, qPrintable(stem));
+                withLf += lf;
+            }
+        QCOMPARE(withLf, 9);
+    }
+
+private:
+    static void seriesRows()
+    {
+        QTest::addColumn<int>("series");
+        for (const SeriesTraits& traits : seriesList())
+            QTest::newRow(traits.word) << int(traits.series);
+    }
+};
+
+QTEST_MAIN(TemplatesTest)
+#include "tst_templates.moc"
