@@ -107,13 +107,13 @@ void TestEdits::hext_data()
 {
     rows({
         // A bad text colours at once; Return tells, and changes nothing.
-        "* | hext_lineEdit~.. | | hext_lineEdit?: .. red pale",
-        "* | hext_lineEdit=.. | hext:Ok | hext_lineEdit?: .. red pale",
-        "* | hext_lineEdit=1.2.3 | hext:Ok | hext_lineEdit?: 1.2.3 red pale",
-        "* | hext_lineEdit=0 | hext:Ok | hext_lineEdit?: 0 red pale",
-        "* | hext_lineEdit=3.99999 | hext:Ok | hext_lineEdit?: 3.99999 red pale",
-        "* | hext_lineEdit=25.001 | hext:Ok | hext_lineEdit?: 25.001 red pale",
-        "* | hext_lineEdit=99999999 | hext:Ok | hext_lineEdit?: 99999999 red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit~.. | | hext_lineEdit?: .. red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit=.. | hext:Ok | hext_lineEdit?: .. red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit=1.2.3 | hext:Ok | hext_lineEdit?: 1.2.3 red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit=0 | hext:Ok | hext_lineEdit?: 0 red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit=3.99999 | hext:Ok | hext_lineEdit?: 3.99999 red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit=25.001 | hext:Ok | hext_lineEdit?: 25.001 red pale",
+        "G110 G130 G133 G150 G165 | hext_lineEdit=99999999 | hext:Ok | hext_lineEdit?: 99999999 red pale",
         "G110 | hext_lineEdit=3 | hext:Ok | Hext_Input_Value: 8; sclk_lineEdit: 192.000; PLL_MUL: 24",
         "G110 | hext_lineEdit=3 hext_lineEdit~8.0 | hext:Ok | hext_lineEdit?: 8.0 black green",
         "G110 | hext_lineEdit~8.00001 | | hext_lineEdit?: 8.00001 black pale; sclk_lineEdit: 192.000",
