@@ -296,6 +296,16 @@ inline bool isFirstOfFamily(const PageFixture& page)
     return true;
 }
 
+/// How often random work is worth its time on a page. A sanitized page is slow.
+inline int randomRounds(const PageFixture& page)
+{
+#ifdef __SANITIZE_ADDRESS__
+    return isFirstOfFamily(page) ? 8 : 2;
+#else
+    return isFirstOfFamily(page) ? 20 : 4;
+#endif
+}
+
 inline bool hasPage(const QString& word)
 {
     const SeriesTraits* traits = seriesByName(QLatin1String("ZN64") + word);

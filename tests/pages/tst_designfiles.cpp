@@ -77,12 +77,6 @@ bool survivesReading(const PageFixture& page)
     return true;
 }
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int randomDesigns = 40; // a sanitized page is slow
-#else
-constexpr int randomDesigns = 200;
-#endif
-
 } // namespace
 
 void TestDesignFiles::initTestCase()
@@ -146,7 +140,7 @@ void TestDesignFiles::roundTrip()
     const PageFixture page(word);
     const PageFixture used(word);
     QSet<QByteArray> designs;
-    const int rounds = isFirstOfFamily(page) ? randomDesigns : randomDesigns / 6;
+    const int rounds = 10 * randomRounds(page);
     int read = 0;
     for (int round = 0; round < rounds; ++round) {
         page.takeRandomSteps(5, random);

@@ -228,7 +228,8 @@ void TestPage::resetEqualsAFreshPage()
     QRandomGenerator random(20);
     const PageFixture fresh(word);
     const PageFixture page(word);
-    for (int round = 0; round < 20; ++round) {
+    const int rounds = randomRounds(page);
+    for (int round = 0; round < rounds; ++round) {
         page.takeRandomSteps(20, random);
         QVERIFY(page.state() != fresh.state());
         DialogAnswers answers;
@@ -248,7 +249,8 @@ void TestPage::passThatChangesNothingSetsNothing()
         page.tree().UpdateCalculateResult();
         page.tree().UpdateRTCParam();
     };
-    for (int round = 0; round < 20; ++round) {
+    const int rounds = randomRounds(page);
+    for (int round = 0; round < rounds; ++round) {
         pass();
         const QStringList before = page.state();
         LookChanges look;
