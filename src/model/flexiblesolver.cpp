@@ -34,7 +34,7 @@ void ZN64ConfigCLK::CalculateParam_From_ResultCLK_Flexible_SYSCLK(double pllInpu
 
 void ZN64ConfigCLK::CalculateParam_From_ResultCLK_Flexible_USBCLK(double pllInput)
 {
-    const double usbTarget = integerPart(48.0 * (m_traits->pll_fp_output ? m_PLL_FU : m_USBDIV));
+    const double usbTarget = integerPart(usbClockMHz * (m_traits->pll_fp_output ? m_PLL_FU : m_USBDIV));
     PllSolution solution;
     if (m_traits->pll_fp_output) {
         // USB goes first; the system clock gets the nearest that the output divider allows.

@@ -5,9 +5,6 @@
 
 namespace {
 
-// MHz. USB works at no other clock.
-constexpr double usbClock = 48.0;
-
 // The nearest multiplier of the PLL's list, a half going upward. An input of 0 kHz gives an end of the list.
 int nearestMultiplier(int targetKhz, int inKhz)
 {
@@ -35,7 +32,7 @@ T limited(T value, T lower, T upper)
 void ZN64ConfigCLK::CalculateParam_From_ResultCLK_Normal(double pllInput, int forUsb)
 {
     const int targetKhz =
-        forUsb ? integerPart((usbClock * m_USBDIV) * 1000.0) : integerPart(1000.0 * m_SYSCLK_Value);
+        forUsb ? integerPart((usbClockMHz * m_USBDIV) * 1000.0) : integerPart(1000.0 * m_SYSCLK_Value);
     const int inKhz = integerPart(1000.0 * pllInput);
     m_PLL_MUL = nearestMultiplier(targetKhz, inKhz);
     m_PLLCLK_Value = static_cast<double>(static_cast<long long>(m_PLL_MUL) * inKhz) / 1000.0;
@@ -80,7 +77,7 @@ void ZN64ConfigCLK::chooseUsbDivider()
     const bool half = m_traits->sysclk_half_pll;
     // 24 and not 48: the divider has half steps, or the PLL runs at twice the system clock.
     if (sysInt % 24 == 0)
-        m_USBDIV = (half ? sysInt * 2 : sysInt) / usbClock;
+        m_USBDIV = (half ? sysInt * 2 : sysInt) / usbClockMHz;
     m_USBDIV = limited<double>(m_USBDIV, m_traits->usbDivMin, m_traits->usbDivMax);
     m_USBCLK_Value = (half ? m_SYSCLK_Value + m_SYSCLK_Value : m_SYSCLK_Value) / m_USBDIV;
 }
@@ -89,7 +86,7 @@ void ZN64ConfigCLK::chooseUsbFu()
 {
     const long long vco = static_cast<long long>(m_PLL_FP) * integerPart(m_SYSCLK_Value);
     if (vco % 48 == 0)
-        m_PLL_FU = integerPart(vco / usbClock);
+        m_PLL_FU = integerPart(vco / usbClockMHz);
     m_PLL_FU = limited(m_PLL_FU, m_traits->usbDivMin, m_traits->usbDivMax);
     // 15, 17 and 19 do not exist.
     if (divisors::indexOf(divisors::pllFu, m_PLL_FU) < 0)

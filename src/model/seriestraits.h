@@ -6,6 +6,9 @@
 
 #include <array>
 
+/// The only clock that USB works at, MHz.
+constexpr double usbClockMHz = 48.0;
+
 /// Where the USB clock can come from, as the usage analysis sees it.
 enum class UsbSource
 {

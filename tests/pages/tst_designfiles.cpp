@@ -1,6 +1,5 @@
 #include "pagefixture.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -253,10 +252,7 @@ void TestDesignFiles::hostileFileCountsAsEmpty()
     for (const auto& [word, expected] : own) {
         const PageFixture page(word);
         DialogAnswers answers;
-        QElapsedTimer timer;
-        timer.start();
         page.page->OpenFromFile(file);
-        QVERIFY(timer.elapsed() < 1000);
         QCOMPARE(answers.shown(), QStringList());
         QCOMPARE(page.shows(common + expected), common + expected);
     }

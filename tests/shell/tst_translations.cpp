@@ -33,6 +33,15 @@ Table readTable(const QString& path)
     return table;
 }
 
+/// How many contexts a table has, and how many entries in all.
+QPair<int, int> sizeOf(const Table& table)
+{
+    int entries = 0;
+    for (const auto& texts : table)
+        entries += texts.size();
+    return {table.size(), entries};
+}
+
 bool isSeriesPage(const QString& context)
 {
     static const QRegularExpression page("^ZN64[A-Z]+\\d+R?PLL$"_s);
@@ -70,7 +79,9 @@ private slots:
     {
         m_english = readTable(QStringLiteral(TABLE_FOLDER "/tr_en.ts"));
         m_chinese = readTable(QStringLiteral(TABLE_FOLDER "/tr_zh.ts"));
-        QVERIFY(!m_english.isEmpty() && !m_chinese.isEmpty());
+        // Contexts, then entries: a page that drops out of a set is missed by its users only.
+        QCOMPARE(sizeOf(m_chinese), qMakePair(33, 776));
+        QCOMPARE(sizeOf(m_english), qMakePair(32, 709));
     }
 
     void contextsHoldWhatTheirClassesAskFor()
@@ -101,9 +112,8 @@ private slots:
 
         // Only sentences for the user end like this.
         static const QRegularExpression sentence("\\w(!|\\?| than|<= \\d+MHz)$"_s);
-        static const QRegularExpression noPageYet("(1000MHz|less than|apb3.*)$"_s);
         for (const QString& literal : literals)
-            if (sentence.match(literal).hasMatch() && !noPageYet.match(literal).hasMatch())
+            if (sentence.match(literal).hasMatch())
                 QVERIFY2(texts.contains(literal), qPrintable("not in the table: "_s + literal));
     }
 

@@ -2,6 +2,7 @@
 
 #include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
+#include "model/seriestraits.h"
 
 UsbBlock::UsbBlock(ClockTree& tree) : ClockBlock(tree)
 {

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "model/seriestraits.h"
 #include "pages/description/clocksource.h"
 
 #include <QString>
 
 #include <vector>
 
-/// The USB clock must be at it exactly, MHz.
-constexpr double usbClockMHz = 48.0;
 /// The highest clock of the ADC where a page limits it, MHz.
 constexpr double adcLimitMHz = 28.0;
 /// The lowest output of the PLL in its normal mode where a page limits it, MHz.
