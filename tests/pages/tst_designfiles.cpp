@@ -301,6 +301,7 @@ void TestDesignFiles::elements_data()
         "G110 | adcdiv=10 | ToADCDIV 2; toadcdiv_ComboBox (off): 0/2",
         "G110 | hext=12.5 | Hext_Input_Value 12.5; hext_lineEdit (off): 12.5",
         "G110 | hext=3 | Hext_Input_Value 3; hext_lineEdit (off): 3",
+        "G110 | hext=30 & rtcswitch=1 & rtcsel=2 | Hext_Input_Value 30; tortc_lineEdit: 0 darkGreen",
         "G110 | hext=-3 | Hext_Input_Value -3; hext_lineEdit (off): -3",
         "G110 | hext=eight | Hext_Input_Value 0; hext_lineEdit (off): 0",
         "G110 | hext=nan | Hext_Input_Value nan; hext_lineEdit (off): nan",
@@ -395,8 +396,9 @@ void TestDesignFiles::elements()
     };
     if (fields.at(0) == QLatin1String("G110"))
         put("sclkselect", "2");
-    const QByteArray element = fields.at(1).toLatin1();
-    put(element.left(element.indexOf('=')), element.mid(element.indexOf('=') + 1));
+    for (const QString& element : fields.at(1).split(QStringLiteral(" & ")))
+        put(element.section(QLatin1Char('='), 0, 0).toLatin1(),
+            element.section(QLatin1Char('='), 1).toLatin1());
     QVERIFY(open(page, document));
     const QStringList state = page.state();
     for (const QString& line : fields.at(2).split(QStringLiteral("; ")))

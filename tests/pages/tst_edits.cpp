@@ -205,6 +205,15 @@ void TestEdits::pllParameters_data()
         // A PLL that is not in use may hold anything.
         "G150 | pllns_lineEdit~501 sclkselect_hick | | pllns_lineEdit: *144; sclk_lineEdit: 8.000",
         "G150 | pllfr=/32 | | pllCFG_Value_lineEdit: 0x00452401; sclk_lineEdit: 36.000",
+        // Off the system clock, a changed source recalculates; but these pages ask for USB, which is off.
+        "P212 | clockoutpin=PA8 clockout_pll sclkselect_hick hext_lineEdit=6 pllrcs_hick | | pllclk_Label: "
+        "180.000MHz",
+        "G165 | clockoutpin=PA8 clockout_pll sclkselect_hick hext_lineEdit=6 pllrcs_hick | | pllclk_Label: "
+        "144.000MHz",
+        "G171 | clockoutpin=PA8 clockout_pll sclkselect_hick hext_lineEdit=6 pllrcs_hick | | pllclk_Label: "
+        "162.000MHz",
+        "G150 | clockout1pin=PE4 clockout1_pll sclkselect_hick hext_lineEdit=6 pllrcs_hick | | pllclk_Label: "
+        "216.000MHz",
         "G150 | pllrcs_hick | | pllCFG_Value_lineEdit: 0x00022401; sclk_lineEdit: 288.000",
     });
 }

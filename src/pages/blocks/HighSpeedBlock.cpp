@@ -93,12 +93,13 @@ void HighSpeedBlock::Show_hext(bool on)
 bool HighSpeedBlock::Hext_Value_Valid(double& value)
 {
     const double hext = typed();
-    if (tree().takingDesign() || inputlimits::hextInRange(hext)) {
+    if (inputlimits::hextInRange(hext)) {
         value = hext;
         return true;
     }
     value = 0.0;
-    tree().showError("hext input error!");
+    if (!tree().takingDesign())
+        tree().showError("hext input error!");
     return false;
 }
 
