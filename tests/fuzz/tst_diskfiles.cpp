@@ -2,35 +2,17 @@
 #include "model/seriestraits.h"
 #include "pages/ClockTreePage.h"
 #include "pages/series/seriespages.h"
+#include "processdata.h"
 #include "shell/ZN64PLLConfig.h"
-#include "testdata.h"
 #include "widgets/dialoganswers.h"
 
 #include <QDir>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
-#include <sys/stat.h>
-
 namespace {
 
 const QByteArray Older("older");
-
-// The disk takes that many bytes of a file only.
-void limitFiles(rlim_t bytes)
-{
-    const rlimit limit{bytes, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-// By the whole process so far.
-qint64 bytesRead()
-{
-    const QByteArray counts = contentOf("/proc/self/io"_s);
-    return counts.startsWith("rchar: ") ? counts.mid(7, counts.indexOf('\n') - 7).toLongLong() : -1;
-}
 
 } // namespace
 
@@ -46,11 +28,7 @@ private:
     QScopedPointer<QTemporaryDir> m_folder;
 
 private slots:
-    void initTestCase()
-    {
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        std::signal(SIGXFSZ, SIG_IGN); // what would end the program at the end of a small disk
-    }
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init() { m_folder.reset(new QTemporaryDir); }
 
     void replacing()

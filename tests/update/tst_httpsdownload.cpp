@@ -1,4 +1,5 @@
 #include "loopbackserver.h"
+#include "processdata.h"
 #include "update/httpsdownload.h"
 #include "update/progressdialog.h"
 #include "widgets/dialoganswers.h"
@@ -9,8 +10,6 @@
 #include <QScreen>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using Server = LoopbackServer;
@@ -63,13 +62,6 @@ void checkGrowth(int kilobytes, int limit)
 #else
     QVERIFY2(kilobytes < limit, qPrintable("%1 kB"_s.arg(kilobytes)));
 #endif
-}
-
-// The disk takes that many bytes of a file only.
-void limitFiles(rlim_t bytes)
-{
-    const rlimit limit{bytes, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 // The older content of the target, "folder" for a folder of its name; what is left there; %1 in the boxes is
@@ -174,7 +166,6 @@ private:
 private slots:
     void initTestCase()
     {
-        std::signal(SIGXFSZ, SIG_IGN); // what would end the program at the end of a small disk
         QVERIFY2(m_server.isListening() && m_foreignServer.isListening(), "openssl made no certificate");
         m_server.on("/d/tool.zip", Server::answer(Content));
         m_foreignServer.on("/d/tool.zip", Server::answer(Content));
@@ -251,13 +242,17 @@ private slots:
 
     void targetGivenInFull()
     {
-        DialogAnswers answers({"Ok"_s});
+        DialogAnswers answers({"Ok"_s, "Ok"_s});
         m_download->SetErrorInfoFlag(true);
         const QString target = pathOf("own name"_s);
         QVERIFY(m_download->downloadFileWithSaveTarget(m_server.url("/d/tool.zip"), target, 0));
         QVERIFY(!m_download->downloadFileWithSaveTarget(" "_s, target, 0));
-        QCOMPARE(answers.shown(), QStringList(Invalid.arg(" "_s)));
         QCOMPARE(contentOf(target), Content);
+        const QString local = "file://"_s + target;
+        QVERIFY(!m_download->downloadFileWithSaveTarget(local, pathOf("copy"_s), 0));
+        QCOMPARE(answers.shown(),
+                 QStringList({Invalid.arg(" "_s), Failed.arg("Protocol \"file\" is unknown"_s)}));
+        QCOMPARE(leftFiles(), QStringList("own name"_s));
     }
 
     // The reply may end and go while the user still reads the box.
