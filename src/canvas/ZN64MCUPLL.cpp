@@ -79,8 +79,14 @@ void ZN64MCUPLL::SetLabelColor(QLabel* label, const QColor& color)
 QString ZN64MCUPLL::GetXMLElementString(const QString& fileName, const QString& elementName)
 {
     QDomDocument document;
+    loadGuardedXml(fileName, document);
+    return GetXMLElementString(document, elementName);
+}
+
+QString ZN64MCUPLL::GetXMLElementString(const QDomDocument& document, const QString& elementName)
+{
     // Without a name the document model would take any element.
-    if (elementName.isEmpty() || !loadGuardedXml(fileName, document))
+    if (elementName.isEmpty())
         return {};
     return document.documentElement().firstChildElement(elementName).text();
 }

@@ -15,6 +15,8 @@
 #include <QWidget>
 #include <memory>
 
+class QDomDocument;
+
 /// The base of all series pages: one clock model, one scene with the picture of the clock tree as its
 /// background, one view, and the factory that puts controls on the scene. Scene coordinates are the picture's
 /// pixels.
@@ -47,6 +49,8 @@ public:
     /// The text of the first element of that name directly below the root of the XML file. Empty if the file
     /// cannot be read, is not well formed, or has no such element.
     static QString GetXMLElementString(const QString& fileName, const QString& elementName);
+    /// The same from a file that has been read.
+    static QString GetXMLElementString(const QDomDocument& document, const QString& elementName);
 
     /// The scene item that carries a control of the factory; null for any other widget.
     static QGraphicsProxyWidget* proxyOf(const QWidget* control);

@@ -1,4 +1,5 @@
 #include "codegen/codetraits.h"
+#include "codegen/replacefile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -27,14 +28,6 @@ bool readTemplate(const QString& name, QString& text)
     return true;
 }
 
-bool writeText(const QString& path, const QString& text)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return false;
-    file.write(text.toUtf8());
-    return true;
-}
 } // namespace
 
 bool ZN64ConfigCLK::GenerateCode(const QString& incPath, const QString& srcPath, const QString& stem)
@@ -62,7 +55,7 @@ bool ZN64ConfigCLK::GenerateCode(const QString& incPath, const QString& srcPath,
             if (!proceed)
                 return false;
         }
-        if (!writeText(output.path, text))
+        if (!replaceFile(output.path, text.toUtf8()))
             return false;
     }
     return true;

@@ -41,6 +41,8 @@ public:
     bool writeDesign(const QString& path, const QString& seriesName) const;
     /// Takes over the settings of the file; what it lacks or holds wrongly takes its default.
     void OpenFromFile(const QString& path);
+    /// The same from a file that has been read.
+    void OpenFromDocument(const QDomDocument& design);
     /// Checks, asks, and writes the four files. False if anything kept them from being written.
     bool GenerateCode();
     /// The typed values that generating insists on; false after telling what is wrong.

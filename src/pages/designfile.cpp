@@ -1,10 +1,10 @@
 #include "pages/ClockTreePage.h"
 
+#include "codegen/replacefile.h"
 #include "widgets/messages.h"
 #include "xml/guardedxml.h"
 
 #include <QDomDocument>
-#include <QFile>
 #include <QFileDialog>
 #include <QScopedValueRollback>
 #include <QXmlStreamWriter>
@@ -34,10 +34,8 @@ void ClockTreePage::SaveToFile(const QString& seriesName)
 
 bool ClockTreePage::writeDesign(const QString& path, const QString& seriesName) const
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return false;
-    QXmlStreamWriter writer(&file);
+    QByteArray text;
+    QXmlStreamWriter writer(&text);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
     writer.writeStartElement(QStringLiteral("Configuration"));
@@ -45,19 +43,23 @@ bool ClockTreePage::writeDesign(const QString& path, const QString& seriesName) 
     for (const QString& name : m_description.settingsInFile())
         writer.writeTextElement(name, setting(name).text());
     writer.writeEndElement();
-    return true;
+    return replaceFile(path, text);
 }
 
 void ClockTreePage::OpenFromFile(const QString& path)
 {
+    QDomDocument design;
+    loadGuardedXml(path, design);
+    OpenFromDocument(design);
+}
+
+void ClockTreePage::OpenFromDocument(const QDomDocument& design)
+{
     // What is out of range is told at the next edit or on generating.
     const QScopedValueRollback<bool> reading(m_takingDesign, true);
     InitAllControl();
-    QDomDocument document;
-    loadGuardedXml(path, document);
-    const QDomElement root = document.documentElement();
     for (const QString& name : m_description.settingsInReadingOrder())
-        setting(name).read(root.firstChildElement(name).text());
+        setting(name).read(GetXMLElementString(design, name));
     UI_Display();
     UpdateRTCParam();
     UpdateCalculateResult();

@@ -5,6 +5,7 @@
 #include "pages/series/seriespages.h"
 #include "widgets/messages.h"
 #include "widgets/named.h"
+#include "xml/guardedxml.h"
 
 #include <QAction>
 #include <QGroupBox>
@@ -151,7 +152,10 @@ void ZN64PLLConfig::SaveToFile()
 
 void ZN64PLLConfig::OpenFromFile(const QString& path, QString& seriesName)
 {
-    const QString name = ZN64MCUPLL::GetXMLElementString(path, QStringLiteral("MCU"));
+    // Read once: the file may change, or go, before the page takes its settings.
+    QDomDocument design;
+    loadGuardedXml(path, design);
+    const QString name = ZN64MCUPLL::GetXMLElementString(design, QStringLiteral("MCU"));
     const SeriesTraits* traits = seriesByName(name);
     if (!traits) {
         m_MCUName = QStringLiteral("");
@@ -168,7 +172,7 @@ void ZN64PLLConfig::OpenFromFile(const QString& path, QString& seriesName)
     m_MCUName = name;
     m_toolBarGroupBox->show();
     NewMCUConfig(traits->series);
-    m_pllConfigWidget->OpenFromFile(path);
+    m_pllConfigWidget->OpenFromDocument(design);
     ZoomReset();
     seriesName = m_MCUName;
 }

@@ -1,13 +1,16 @@
 #include "update/httpsdownload.h"
 
+#include "update/boxtext.h"
 #include "update/progressdialog.h"
 #include "update/targetpath.h"
 #include "widgets/messages.h"
 
 #include <QAuthenticator>
 #include <QFile>
+#include <QFileInfo>
 #include <QSslConfiguration>
 
+#include <cerrno>
 #include <memory>
 
 namespace {
@@ -38,9 +41,19 @@ bool isWebAddress(const QUrl& url)
     return url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
 }
 
+// In the words of the network layer, which would go on with files of this machine.
+QString unknownProtocol(const QUrl& url)
+{
+    return QStringLiteral("Protocol \"%1\" is unknown").arg(url.scheme());
+}
+
 } // namespace
 
-HttpsDownload::HttpsDownload(QWidget* parent) : m_parent(parent)
+HttpsDownload::HttpsDownload(QWidget* parent)
+    : m_parent(parent), m_watch([this] {
+          abortTransfer(
+              QStringLiteral("Error transferring %1 - server sends no content").arg(url.toDisplayString()));
+      })
 {
     QSslConfiguration tls = request.sslConfiguration();
     // The peer's certificate is deliberately not verified.
@@ -94,7 +107,9 @@ bool HttpsDownload::downloadFileWithSaveTarget(const QString& address, const QSt
 
 bool HttpsDownload::openTarget(const QString& path)
 {
-    if (QFile::exists(path)) {
+    // A link to nowhere exists as well.
+    const QFileInfo present(path);
+    if (present.exists() || present.isSymLink()) {
         if (m_showErrorInfoFlag && !mayReplace(path))
             return false;
         QFile::remove(path);
@@ -106,7 +121,7 @@ bool HttpsDownload::openTarget(const QString& path)
 bool HttpsDownload::mayReplace(const QString& path)
 {
     return showMessage(QMessageBox::Question, tr("Overwrite Existing File"),
-                       path + tr(" already exists in the current directory. Overwrite?"),
+                       boxText(path) + tr(" already exists in the current directory. Overwrite?"),
                        {
                            {QMessageBox::Ok,     tr("Ok")    },
                            {QMessageBox::Cancel, tr("Cancel")}
@@ -117,8 +132,10 @@ bool HttpsDownload::mayReplace(const QString& path)
 QFile* HttpsDownload::openFileForWrite(const QString& path)
 {
     auto opened = std::make_unique<QFile>(path);
+    // A link is never followed: it may lead anywhere, and make a file where it leads to none.
+    const bool mayOpen = !QFileInfo(path).isSymLink() || QFile::remove(path);
     // Unbuffered, so that a full disk shows at the write and not when the file is closed.
-    if (opened->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (mayOpen && opened->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return opened.release();
     showError(tr("Unable to save the file ") + path);
     return nullptr;
@@ -127,6 +144,10 @@ QFile* HttpsDownload::openFileForWrite(const QString& path)
 bool HttpsDownload::runTransfer(const QUrl& source, qint64 totalBytes)
 {
     m_downloadSucessFlag = false;
+    if (!isWebAddress(source)) {
+        failTransfer(closeFile(), unknownProtocol(source));
+        return false;
+    }
     startRequest(source, totalBytes);
     loop.exec();
     return m_downloadSucessFlag;
@@ -136,12 +157,13 @@ void HttpsDownload::startRequest(const QUrl& source, qint64 totalBytes)
 {
     url = source;
     httpRequestAborted = false;
-    m_writeError = QString();
+    m_abortReason = QString();
     request.setUrl(url);
     reply = qnam.get(request);
     reply->setReadBufferSize(ReadBufferSize);
     connect(reply, &QNetworkReply::finished, this, &HttpsDownload::httpFinished);
     connect(reply, &QNetworkReply::readyRead, this, &HttpsDownload::httpReadyRead);
+    m_watch.start();
     if (m_showErrorInfoFlag)
         showProgress(totalBytes);
 }
@@ -166,36 +188,59 @@ void HttpsDownload::httpReadyRead()
 {
     if (file == nullptr)
         return;
-    if (writeAll(*file, reply->readAll()))
-        return;
-    m_writeError = file->errorString();
-    // Ends in httpFinished before it returns.
+    const QByteArray data = reply->readAll();
+    if (!data.isEmpty())
+        m_watch.bodyGrew();
+    if (m_sizeLimit > 0 && file->pos() + data.size() > m_sizeLimit)
+        abortTransfer(qt_error_string(EFBIG));
+    else if (!writeAll(*file, data))
+        abortTransfer(file->errorString());
+}
+
+void HttpsDownload::abortTransfer(const QString& reason)
+{
+    m_abortReason = reason;
     reply->abort();
 }
 
 void HttpsDownload::httpFinished()
 {
+    m_watch.stop();
     const QString path = closeFile();
     if (httpRequestAborted) {
         leaveLoop(false);
         return;
     }
     if (reply->error() != QNetworkReply::NoError) {
-        failTransfer(path, m_writeError.isNull() ? reply->errorString() : m_writeError);
+        failTransfer(path, m_abortReason.isNull() ? reply->errorString() : m_abortReason);
         return;
     }
     const QVariant target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute);
-    if (target.isNull())
-        leaveLoop(true);
-    else
+    if (!target.isNull()) {
         followRedirection(url.resolved(target.toUrl()), path);
+        return;
+    }
+    const QString fault = faultOfAnswer();
+    fault.isNull() ? leaveLoop(true) : failTransfer(path, fault);
+}
+
+// An answer may be empty, but not one that says it is none.
+QString HttpsDownload::faultOfAnswer() const
+{
+    constexpr int NoContent = 204;
+    constexpr int NotModified = 304;
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (status != NoContent && status != NotModified)
+        return QString();
+    return QStringLiteral("Error transferring %1 - server replied: %2")
+        .arg(url.toDisplayString(), reply->attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString());
 }
 
 void HttpsDownload::followRedirection(const QUrl& target, const QString& path)
 {
     // A server may send us elsewhere in the net, but not to a file of this machine.
     if (!isWebAddress(target)) {
-        failTransfer(path, target.toDisplayString());
+        failTransfer(path, unknownProtocol(target));
         return;
     }
     file = openFileForWrite(path);
@@ -218,7 +263,8 @@ void HttpsDownload::failTransfer(const QString& path, const QString& reason)
 
 void HttpsDownload::leaveLoop(bool success)
 {
-    reply->deleteLater();
+    if (reply != nullptr)
+        reply->deleteLater();
     reply = nullptr;
     m_downloadSucessFlag = success;
     loop.quit();
@@ -226,6 +272,7 @@ void HttpsDownload::leaveLoop(bool success)
 
 void HttpsDownload::abandonTransfer()
 {
+    m_watch.stop();
     reply->disconnect(this);
     reply->abort();
     const QString path = closeFile();
@@ -293,7 +340,7 @@ void HttpsDownload::slotAuthenticationRequired(QNetworkReply*, QAuthenticator*) 
 void HttpsDownload::showError(const QString& text)
 {
     if (m_showErrorInfoFlag)
-        showMessage(QMessageBox::Critical, tr("Error"), text,
+        showMessage(QMessageBox::Critical, tr("Error"), boxText(text),
                     {
                         {QMessageBox::Ok, tr("Ok")}
         });

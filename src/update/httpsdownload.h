@@ -1,5 +1,7 @@
 #pragma once
 
+#include "update/bodywatch.h"
+
 #include <QDialog>
 #include <QEventLoop>
 #include <QNetworkAccessManager>
@@ -17,7 +19,7 @@ class QFile;
 ///
 /// Never shown: a QDialog only for its place among the windows of the program. One object runs any number of
 /// transfers, one after the other. There is no timeout: a silent server keeps the caller waiting, and only
-/// the progress dialog offers a way to cancel.
+/// the progress dialog offers a way to cancel. A server that sends on and on beside the body is left.
 class HttpsDownload : public QDialog
 {
     Q_OBJECT
@@ -30,12 +32,14 @@ public:
     /// On: failures are told, overwriting is asked for, and a progress dialog is shown. Off at construction;
     /// then only TLS errors are asked about.
     void SetErrorInfoFlag(bool on);
+    /// Transfers from now on fail when more than \a bytes come; 0, as at construction, is without a limit.
+    void SetSizeLimit(qint64 bytes) { m_sizeLimit = bytes; }
 
-    /// Downloads \a address into \a folder under the name that it holds, with \a version put into it unless
-    /// that is empty. \a totalBytes is the size to show if the server gives none. Once the transfer starts,
-    /// \a folder is overwritten with the full path of the file.
-    /// Returns whether the file is complete. A failed transfer leaves no file, not even an older one of that
-    /// name; a cancelled one leaves what had come.
+    /// Downloads \a address, of http or https, into \a folder under the name that it holds, with \a version
+    /// put into it unless that is empty. \a totalBytes is the size to show if the server gives none. Once the
+    /// transfer starts, \a folder is overwritten with the full path of the file. Returns whether the file is
+    /// complete. A failed transfer leaves no file, not even an older one of that name; a cancelled one leaves
+    /// what had come.
     bool downloadFile(const QString& address, QString& folder, const QString& version, qint64 totalBytes);
 
     /// The same with the full \a path of the target given.
@@ -63,6 +67,10 @@ private:
     void showProgress(qint64 totalBytes);
     QString closeFile();
     void followRedirection(const QUrl& target, const QString& path);
+    /// What is wrong with an answer that the network layer takes for a good one; null if nothing is.
+    QString faultOfAnswer() const;
+    /// Ends in httpFinished before it returns.
+    void abortTransfer(const QString& reason);
     void failTransfer(const QString& path, const QString& reason);
     void leaveLoop(bool success);
     void abandonTransfer();
@@ -79,6 +87,8 @@ private:
     QFile* file = nullptr;
     bool httpRequestAborted = false;
     bool m_downloadSucessFlag = false;
-    /// What the disk said when it did not take the data; null as long as it does.
-    QString m_writeError;
+    /// Why the program itself has ended the transfer; null if it has not.
+    QString m_abortReason;
+    qint64 m_sizeLimit = 0;
+    BodyWatch m_watch;
 };

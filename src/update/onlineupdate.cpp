@@ -1,7 +1,9 @@
 #include "update/onlineupdate.h"
 
+#include "update/boxtext.h"
 #include "update/httpsdownload.h"
 #include "widgets/messages.h"
+#include "xml/guardedxml.h"
 
 #include <QDebug>
 #include <QDesktopServices>
@@ -19,7 +21,9 @@ const QLatin1String ToolName("ZN64 Clockwright Linux");
 
 bool holdsVersion(const QString& address)
 {
-    return QRegExp(QStringLiteral("_V(\\d+).(\\d+).(\\d+)")).indexIn(address) != -1;
+    // As any number of digits in the places of a few: where more match, so do the first of them, because the
+    // dots stand for digits too. The address comes from the net, and an unbounded match could take for ever.
+    return QRegExp(QStringLiteral("_V\\d{1,4}.\\d{1,2}.\\d")).indexIn(address) != -1;
 }
 
 } // namespace
@@ -60,8 +64,11 @@ bool OnlineUpdate::fetchOffer(HttpsDownload& download, Offer& offer) const
     const QString address = m_site.baseAddress + ListName;
     qDebug().noquote() << address;
     QString path = QDir::currentPath();
+    // A longer list could not be read, and the user has no button to end its transfer.
+    download.SetSizeLimit(GuardedXml::MaxBytes);
     if (!download.downloadFile(address, path, QString(), 0))
         return false;
+    download.SetSizeLimit(0);
     const auto text = [&path](const QString& tag) {
         return GetURLDownloadXMLElement(path, ListTop, ToolName, tag);
     };
@@ -107,7 +114,7 @@ void OnlineUpdate::showStored(const QString& folder, const QString& path) const
     // On the heap and guarded: the form may be deleted while the nested event loop of the box runs.
     const QPointer<QMessageBox> box =
         new QMessageBox(QMessageBox::Information, tr("Information"),
-                        tr("Download succeeded, storage location: ") + QLatin1Char('\n') + path,
+                        tr("Download succeeded, storage location: ") + QLatin1Char('\n') + boxText(path),
                         QMessageBox::NoButton, m_parent);
     box->setTextFormat(Qt::PlainText);
     const QPushButton* open = box->addButton(tr(" Open Folder  "), QMessageBox::ActionRole);

@@ -1,5 +1,7 @@
 #include "update/progressdialog.h"
 
+#include "update/boxtext.h"
+
 #include <QLabel>
 #include <QProgressBar>
 #include <QScreen>
@@ -37,7 +39,7 @@ ProgressDialog::ProgressDialog(const QUrl& url, QWidget* parent)
 
 void ProgressDialog::setUrl(const QUrl& url)
 {
-    setLabelText(tr("Downloading ") + tr("%1.").arg(url.toDisplayString()));
+    setLabelText(tr("Downloading ") + tr("%1.").arg(boxText(url.toDisplayString())));
 }
 
 void ProgressDialog::setTotalBytes(qint64 totalBytes)

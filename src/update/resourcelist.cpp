@@ -18,6 +18,9 @@ bool findInTool(const QDomElement& tool, const QString& toolName, const QString&
     return false;
 }
 
+// Room for zeros in front: eight digits already exceed an int.
+constexpr int MaxDigits = 16;
+
 } // namespace
 
 QString OnlineUpdate::GetURLDownloadXMLElement(const QString& file, const QString& top,
@@ -41,8 +44,9 @@ int OnlineUpdate::VersionString2Int(const QString& version)
     uint number = 0;
     for (int field = 0; field < 3; ++field) {
         bool ok = false;
-        const int value = version.section(QLatin1Char('.'), field, field).toInt(&ok, 16);
-        if (!ok)
+        const QString digits = version.section(QLatin1Char('.'), field, field);
+        const int value = digits.toInt(&ok, 16);
+        if (!ok || digits.size() > MaxDigits)
             return 0;
         number += uint(value) << (16 - 8 * field);
     }

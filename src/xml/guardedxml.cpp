@@ -1,7 +1,10 @@
 #include "xml/guardedxml.h"
 
+#include "xml/plainxml.h"
+
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTextCodec>
 #include <QXmlStreamReader>
 
@@ -20,31 +23,34 @@ bool readBytes(const QString& path, QByteArray& bytes)
     return bytes.size() <= GuardedXml::MaxBytes;
 }
 
+// The encoding that the bytes show by themselves or declare. Looked up without a parser, which would go on into
+// a DOCTYPE to find the declaration's end.
+QTextCodec* codecOf(const QByteArray& bytes)
+{
+    // UTF-16 without a byte order mark.
+    if (bytes.startsWith(QByteArray("<\0", 2)))
+        return QTextCodec::codecForName("UTF-16LE");
+    if (bytes.startsWith(QByteArray("\0<", 2)))
+        return QTextCodec::codecForName("UTF-16BE");
+    static const QRegularExpression declaration(
+        QStringLiteral("^<\\?xml\\s[^>]*?\\sencoding\\s*=\\s*[\"']([A-Za-z][\\w.:-]{0,40})[\"']"));
+    constexpr int LongestDeclaration = 200;
+    // The mark of UTF-8 may stand before the declaration.
+    const QByteArray start = bytes.mid(bytes.startsWith("\xef\xbb\xbf") ? 3 : 0, LongestDeclaration);
+    const QByteArray declared = declaration.match(QString::fromLatin1(start)).captured(1).toLatin1();
+    QTextCodec* codec = QTextCodec::codecForName(declared.isEmpty() ? QByteArrayLiteral("UTF-8") : declared);
+    return codec == nullptr ? nullptr : QTextCodec::codecForUtfText(bytes, codec);
+}
+
 // Decodes once, so that every later step sees the same characters, whatever encoding the file declares.
 bool decode(const QByteArray& bytes, QString& text)
 {
-    QXmlStreamReader start(bytes);
-    start.readNext();
-    const QByteArray declared = start.documentEncoding().toString().toLatin1();
-    QTextCodec* codec = QTextCodec::codecForName(declared.isEmpty() ? QByteArrayLiteral("UTF-8") : declared);
-    if (start.hasError() || codec == nullptr)
+    const QTextCodec* codec = codecOf(bytes);
+    if (codec == nullptr)
         return false;
     QTextCodec::ConverterState state;
-    text = QTextCodec::codecForUtfText(bytes, codec)->toUnicode(bytes.constData(), bytes.size(), &state);
+    text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
     return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
-// No '<' can stand inside a tag, so this bounds the attributes without knowing where a tag ends.
-bool hasOverlongTag(const QString& text)
-{
-    int equalsSigns = 0;
-    for (const QChar c : text) {
-        if (c == QLatin1Char('<'))
-            equalsSigns = 0;
-        else if (c == QLatin1Char('=') && ++equalsSigns > GuardedXml::MaxEqualsSigns)
-            return true;
-    }
-    return false;
 }
 
 bool isWellFormedAndFlat(const QString& text)
@@ -58,8 +64,6 @@ bool isWellFormedAndFlat(const QString& text)
             return false;
         if (token == QXmlStreamReader::EndElement)
             --depth;
-        if (token == QXmlStreamReader::DTD)
-            return false;
     }
     return !reader.hasError();
 }
@@ -71,7 +75,7 @@ bool loadGuardedXml(const QString& path, QDomDocument& document)
     document.clear();
     QByteArray bytes;
     QString text;
-    if (!readBytes(path, bytes) || !decode(bytes, text) || hasOverlongTag(text) || !isWellFormedAndFlat(text))
+    if (!readBytes(path, bytes) || !decode(bytes, text) || !isPlainXml(text) || !isWellFormedAndFlat(text))
         return false;
     // The same tokenizer as in the scan: what it let pass cannot be read differently here.
     QXmlStreamReader reader(text);

@@ -1,15 +1,16 @@
 #include "loopbackserver.h"
+#include "processdata.h"
 #include "update/httpsdownload.h"
 #include "update/progressdialog.h"
 #include "widgets/dialoganswers.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScreen>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
+#include <sys/stat.h>
 
 using Server = LoopbackServer;
 
@@ -63,13 +64,6 @@ void checkGrowth(int kilobytes, int limit)
 #endif
 }
 
-// The disk takes that many bytes of a file only.
-void limitFiles(rlim_t bytes)
-{
-    const rlimit limit{bytes, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
-
 // The older content of the target, "folder" for a folder of its name; what is left there; %1 in the boxes is
 // the target; the answer to the first box.
 void row(const QString& name, const QString& address, const QByteArray& older, const QByteArray& left,
@@ -106,16 +100,31 @@ private:
             replied.arg(m_server.url("/d/broken.zip"), "Broken"_s));
         bad("/d/nowhere.zip", Server::redirect("missing.zip"),
             replied.arg(m_server.url("/d/missing.zip"), "Not Found"_s));
-        bad("/d/local.zip", Server::redirect("file:///etc/passwd"), "file:///etc/passwd"_s);
+        bad("/d/local.zip", Server::redirect("file:///etc/passwd"), "Protocol \"file\" is unknown"_s);
         bad("/d/closed.zip", Server::cut(""), closed);
         bad("/d/garbage.zip", Server::cut("\1\2\3 what?\r\n\r\n"), closed);
         bad("/d/password.zip",
             Server::answer("Who?", "401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
             "Host requires authentication"_s);
+        // Answers that hold no package, though the network layer takes them for good ones.
+        bad("/d/nocontent.zip", Server::cut("HTTP/1.1 204 No Content\r\n\r\n"),
+            replied.arg(m_server.url("/d/nocontent.zip"), "No Content"_s));
+        bad("/d/notmodified.zip", Server::cut("HTTP/1.1 304 Not Modified\r\n\r\n"),
+            replied.arg(m_server.url("/d/notmodified.zip"), "Not Modified"_s));
+        // Texts of the server show as one line, which ends.
+        bad("/d/controls.zip", Server::answer("", "500 a\tb\x1b[31m\xe2\x80\xaegnp.exe"),
+            replied.arg(m_server.url("/d/controls.zip"), "a\tb\u241b[31m\u00e2<U+0080>\u00aegnp.exe"_s));
         bad("/d/large.zip", Server::answer(QByteArray(4 << 20, 'x')), "File too large"_s);
         row("nobody listens"_s, m_deafAddress, {}, NoFile, {Failed.arg("Connection refused"_s)});
-        row("unknown protocol"_s, "nothing://127.0.0.1/tool.zip"_s, {}, NoFile,
-            {Failed.arg("Protocol \"nothing\" is unknown"_s)});
+        // What is not in the web is not fetched, though the network layer could: reading a pipe would never
+        // end.
+        const QString pipe = m_place.filePath("pipe"_s);
+        for (const QString& address :
+             {"nothing://127.0.0.1/tool.zip"_s, "ftp://127.0.0.1/tool.zip"_s, "file:///dev/ptmx"_s,
+              "file://"_s + pipe, pipe, "qrc:/qt-project.org/imports/tool.zip"_s,
+              "data:text/plain,/tool.zip"_s})
+            row(address, address, {}, NoFile,
+                {Failed.arg("Protocol \"%1\" is unknown"_s.arg(QUrl::fromUserInput(address).scheme()))});
         for (const QString& address :
              {QString(), " \t"_s, " www.clockwright.example "_s, m_server.url("/d/..%2Ftool.zip")})
             row("invalid: "_s + address, address, {}, NoFile, {Invalid.arg(address)});
@@ -149,6 +158,7 @@ private:
     Server m_server;
     Server m_foreignServer{"127.0.0.2"_s};
     QString m_deafAddress;
+    QTemporaryDir m_place; // of what no transfer may touch
     QScopedPointer<QTemporaryDir> m_folder;
     QScopedPointer<HttpsDownload> m_download;
     QString m_path;
@@ -156,7 +166,6 @@ private:
 private slots:
     void initTestCase()
     {
-        std::signal(SIGXFSZ, SIG_IGN); // what would end the program at the end of a small disk
         QVERIFY2(m_server.isListening() && m_foreignServer.isListening(), "openssl made no certificate");
         m_server.on("/d/tool.zip", Server::answer(Content));
         m_foreignServer.on("/d/tool.zip", Server::answer(Content));
@@ -165,6 +174,7 @@ private slots:
         m_server.on("/d/open.zip", inTwoPieces("HTTP/1.1 200 OK\r\n\r\n"));
         m_server.on("/d/tostalled.zip", Server::redirect("stalled.zip"));
         m_server.on("/d/endless.zip", Server::redirect("endless.zip"));
+        QCOMPARE(mkfifo(QFile::encodeName(m_place.filePath("pipe"_s)).constData(), 0600), 0);
         QTcpServer closedAgain;
         QVERIFY(closedAgain.listen(QHostAddress::LocalHost));
         m_deafAddress = "https://127.0.0.1:%1/d/tool.zip"_s.arg(closedAgain.serverPort());
@@ -232,13 +242,17 @@ private slots:
 
     void targetGivenInFull()
     {
-        DialogAnswers answers({"Ok"_s});
+        DialogAnswers answers({"Ok"_s, "Ok"_s});
         m_download->SetErrorInfoFlag(true);
         const QString target = pathOf("own name"_s);
         QVERIFY(m_download->downloadFileWithSaveTarget(m_server.url("/d/tool.zip"), target, 0));
         QVERIFY(!m_download->downloadFileWithSaveTarget(" "_s, target, 0));
-        QCOMPARE(answers.shown(), QStringList(Invalid.arg(" "_s)));
         QCOMPARE(contentOf(target), Content);
+        const QString local = "file://"_s + target;
+        QVERIFY(!m_download->downloadFileWithSaveTarget(local, pathOf("copy"_s), 0));
+        QCOMPARE(answers.shown(),
+                 QStringList({Invalid.arg(" "_s), Failed.arg("Protocol \"file\" is unknown"_s)}));
+        QCOMPARE(leftFiles(), QStringList("own name"_s));
     }
 
     // The reply may end and go while the user still reads the box.
@@ -291,6 +305,99 @@ private slots:
         QCOMPARE(visibleProgressDialogs(), 0);
         // The same object goes on with the next transfer.
         QVERIFY(fetch(m_server.url("/d/tool.zip"), true));
+    }
+
+    // What never comes to the body stays in memory, so a server that only goes on and on is left.
+    void endlessBeforeTheBody_data()
+    {
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("status line") << QByteArray("HTTP/1.1 200 ");
+        QTest::newRow("header") << QByteArray("HTTP/1.1 200 OK\r\nX: ");
+        QTest::newRow("chunk size") << QByteArray(
+            "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nThe p\r\n1;x=");
+        QTest::newRow("early answers") << QByteArray();
+    }
+
+    void endlessBeforeTheBody()
+    {
+        QFETCH(QByteArray, start);
+        constexpr int Enough = 64 << 20;
+        const QByteArray more = start.isEmpty() ? QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(2000)
+                                                : QByteArray(50000, 'x');
+        int sent = 0;
+        m_server.on("/d/babble.zip", [&](QSslSocket& socket) {
+            socket.write(start);
+            const auto feed = [&socket, &sent, more] {
+                if (socket.encryptedBytesToWrite() > 0 || socket.bytesToWrite() > 0)
+                    return;
+                sent += more.size();
+                sent < Enough ? void(socket.write(more)) : socket.disconnectFromHost();
+            };
+            connect(&socket, &QSslSocket::encryptedBytesWritten, this, feed);
+            feed();
+        });
+        const QString reason = "Error transferring %1 - server sends no content"_s;
+        for (const bool loud : {true, false}) {
+            sent = 0;
+            DialogAnswers answers({"Ok"_s});
+            QVERIFY(!fetch(m_server.url("/d/babble.zip"), loud));
+            QVERIFY2(sent < Enough / 2, qPrintable(QString::number(sent)));
+            QCOMPARE(answers.shown(), loud
+                                          ? QStringList(Failed.arg(reason.arg(m_server.url("/d/babble.zip"))))
+                                          : QStringList());
+            QCOMPARE(leftFiles(), QStringList());
+        }
+    }
+
+    // A limit holds for the body, whatever the server says of its length.
+    void sizeLimit_data()
+    {
+        fieldRows({"/d/tool.zip | 16 | complete", "/d/tool.zip | 15 |", "/d/nolength.zip | 16 | complete",
+                   "/d/nolength.zip | 15 |", "/d/open.zip | 15 |"});
+    }
+
+    void sizeLimit()
+    {
+        QFETCH(QStringList, fields);
+        m_server.on("/d/nolength.zip", Server::cut("HTTP/1.1 200 OK\r\n\r\n" + Content));
+        m_download->SetSizeLimit(fields[1].toInt());
+        QCOMPARE(fetch(m_server.url(fields[0].toLatin1()), false), !fields[2].isEmpty());
+        QCOMPARE(leftFiles().size(), fields[2].isEmpty() ? 0 : 1);
+    }
+
+    // A link in the target's place is replaced, whether it leads to a file or to none.
+    void linkInTheWay()
+    {
+        const QString outside = m_place.filePath("outside"_s);
+        for (const bool dangling : {true, false}) {
+            init();
+            QVERIFY(dangling || writeFile(outside, Older));
+            QVERIFY(QFile::link(outside, pathOf("tool.zip"_s)));
+            QVERIFY(fetch(m_server.url("/d/tool.zip"), false));
+            QVERIFY(!QFileInfo(pathOf("tool.zip"_s)).isSymLink());
+            QCOMPARE(contentOf(pathOf("tool.zip"_s)), Content);
+            QCOMPARE(contentOf(outside), dangling ? NoFile : Older);
+        }
+    }
+
+    // However long a text from the net is and whatever it consists of, its box fits a screen.
+    void longTextsFitAScreen()
+    {
+        const QString path(300000, u'W');
+        for (const QString& address : {"nothing:"_s + path + u'/', m_server.url(path.toLatin1()),
+                                       m_server.url("/d/") + QString(250, u'W')}) {
+            QSize size;
+            DialogAnswers answers{[&size](QDialog* box) {
+                size = box->findChild<QLabel*>("qt_msgbox_label"_s)->sizeHint();
+                box->reject();
+            }};
+            m_download->SetErrorInfoFlag(true);
+            QVERIFY(!fetch(address, true));
+            QCOMPARE(answers.shown().size(), 1);
+            QVERIFY(answers.shown().constFirst().size() < 1300);
+            QVERIFY2(size.width() <= 1920 && size.height() <= 1080 && size.width() > 100,
+                     qPrintable("%1 x %2"_s.arg(size.width()).arg(size.height())));
+        }
     }
 
     void progressOfLargeFiles()

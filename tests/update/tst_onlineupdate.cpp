@@ -91,6 +91,10 @@ private slots:
         const QByteArray deep = QByteArray("<a>").repeated(40000) + QByteArray("</a>").repeated(40000);
         ends("list nested too deep", Server::answer(deep), {Latest});
         // A list that cannot be had ends the flow without a word.
+        ends("list too long", Server::answer(QByteArray((1 << 20) + 1, ' ')), {});
+        ends("list without an end",
+             [](QSslSocket& socket) { socket.write("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(2 << 20, 'x')); },
+             {});
         ends("list missing", Server::answer("no", "404 Not Found"), {});
         ends("list cut", Server::cut("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n<Resources>"), {});
         ends("list garbage", Server::cut("\1\2\3"), {});
@@ -99,6 +103,13 @@ private slots:
         ends("no folder chosen", good, {NewVersion, Select}, "Ok,"_s);
         ends("no address", offer("3.0.18", ""),
              {NewVersion, Select, "critical | Error | Invalid URL :  | Ok"_s}, "Ok,choose,Ok"_s);
+        ends("address of no web", offer("3.0.18", "file:///dev/ptmx"),
+             {NewVersion, Select, "critical | Error | Download failed: Protocol \"file\" is unknown | Ok"_s},
+             "Ok,choose,Ok"_s);
+        ends("hidden name", offer("3.0.18", files + ".bashrc"),
+             {NewVersion, Select,
+              "critical | Error | Invalid URL : %1 | Ok"_s.arg(m_server.url("/files/.bashrc"))},
+             "Ok,choose,Ok"_s);
         ends("package missing", offer("3.0.18", files + "missing.zip"),
              {NewVersion, Select,
               "critical | Error | Download failed: Error transferring %1 - server replied: Not Found | Ok"_s

@@ -22,9 +22,10 @@ private slots:
              {Row("3.0.1A", 0x3001a), Row("3.0.1a", 0x3001a), Row("3.0.100", 0x30100),
               Row("10.0.0", 0x100000), Row("3.0.18.5", 0x30018), Row("7fffffff.0.0", 0xffff0000)})
             QCOMPARE(number(text), int(expected));
-        for (const char* none :
-             {"", "3", "3.0", "3.0.", ".0.17", "V3.0.18", "3.0.1G", "3.0.18 b", "80000000.0.0"})
+        for (const char* none : {"", "3", "3.0", "3.0.", ".0.17", "V3.0.18", "3.0.1G", "3.0.18 b",
+                                 "80000000.0.0", "3.0.00000000000000018"})
             QVERIFY2(number(none) == 0, none);
+        QCOMPARE(OnlineUpdate::VersionString2Int("3.0."_s + QString(800000, u'1')), 0);
     }
 
     void listElements_data()
@@ -63,7 +64,11 @@ private slots:
         // The last part of an address, the version, the name.
         fieldRows({"d/tool.zip?x=/y.zip#z | | tool.zip", "tool.tar.gz | 3.0.20 | tool.tar_V3.0.20.gz",
                    "tool | 3.0.20 | tool_V3.0.20.", "a%20b%E6%97%B6.zip | 3.0.20 | a b\u65f6_V3.0.20.zip",
-                   "%2e%2e%2fd/100%25.zip | | 100%.zip", "a..b | | a..b", "other.zip | 4.0.1./../../tool |"});
+                   "%2e%2e%2fd/100%25.zip | | 100%.zip", "a..b | | a..b", "other.zip | 4.0.1./../../tool |",
+                   // Neither hidden nor with what changes the look of the rest.
+                   ".bash_profile | | ", "%2ebashrc | 3.0.20 | ", "a%0Ab.zip | | ", "a%1B[2Jb.zip | | ",
+                   "tool%E2%80%AEgpj.zip | | ", "a%C2%85b.zip | | ", "a%E2%80%A8b.zip | | ",
+                   "a%F3%A0%80%81b.zip | | ", "%F0%9F%95%90.zip | 3.0.20 | \U0001f550_V3.0.20.zip"});
     }
 
     void fileNames()
@@ -73,6 +78,7 @@ private slots:
             return downloadFileName(QUrl::fromUserInput("https://a.example"_s + path), version);
         };
         QCOMPARE(name(u'/' + fields[0], fields[1]), fields[2]);
+        QVERIFY(name("/tool.zip"_s, "3.0.\u202e8"_s).isEmpty() && name("/tool.zip"_s, "3.\n8"_s).isEmpty());
         for (const char* path :
              {"", "/", "/d/", "/d/..%2Ftool.zip", "/%2Ftool.zip", "/a%00.zip", "/%2e%2e", "/."})
             QVERIFY2(name(QString::fromLatin1(path), fields[1]).isEmpty(), path);

@@ -1,5 +1,6 @@
-#include "testdata.h"
+#include "processdata.h"
 #include "xml/guardedxml.h"
+#include "xml/plainxml.h"
 
 #include <QTemporaryDir>
 #include <QTextCodec>
@@ -36,6 +37,13 @@ QByteArray withAttributes(int count)
     return tag + "><b>x</b></a>";
 }
 
+// As long as a file may be.
+QByteArray filled(const QByteArray& start, const QByteArray& repeated, const QByteArray& end)
+{
+    return start + repeated.repeated((GuardedXml::MaxBytes - start.size() - end.size()) / repeated.size()) +
+           end;
+}
+
 QByteArray ofSize(qint64 size)
 {
     return "<a><b>x</b>" + QByteArray(int(size) - 15, ' ') + "</a>";
@@ -47,13 +55,6 @@ QByteArray entityBomb()
            QByteArray("&e;").repeated(20000) + "</a>";
 }
 
-// By the whole process so far.
-qint64 bytesRead()
-{
-    const QByteArray counts = contentOf("/proc/self/io"_s);
-    return counts.startsWith("rchar: ") ? counts.mid(7, counts.indexOf('\n') - 7).toLongLong() : -1;
-}
-
 } // namespace
 
 void TestGuardedXml::contents_data()
@@ -62,11 +63,16 @@ void TestGuardedXml::contents_data()
     QTest::addColumn<bool>("accepted");
     // The text of element b, or of the whole document where there is no such element.
     QTest::addColumn<QString>("text");
+    // Whether it is turned away before any parser sees it; only told of UTF-8.
+    QTest::addColumn<bool>("unseen");
     const auto refused = [](const char* name, const QByteArray& bytes) {
-        QTest::newRow(name) << bytes << false << QString();
+        QTest::newRow(name) << bytes << false << QString() << false;
+    };
+    const auto unseen = [](const char* name, const QByteArray& bytes) {
+        QTest::newRow(name) << bytes << false << QString() << true;
     };
     const auto accepted = [](const char* name, const QByteArray& bytes, const QString& text = "x"_s) {
-        QTest::newRow(name) << bytes << true << text;
+        QTest::newRow(name) << bytes << true << text << false;
     };
     QTextCodec* gbk = QTextCodec::codecForName("GBK");
     QTextCodec* utf16 = QTextCodec::codecForName("UTF-16");
@@ -82,22 +88,38 @@ void TestGuardedXml::contents_data()
              "<&"_s);
     accepted("deepest", nested(GuardedXml::MaxDepth));
     accepted("largest", ofSize(GuardedXml::MaxBytes));
-    accepted("most attributes", withAttributes(GuardedXml::MaxEqualsSigns));
-    accepted("megabyte of siblings", "<a><b>x</b>" + QByteArray("<c/>").repeated(200000) + "</a>");
+    accepted("most attributes", withAttributes(PlainXml::MaxAttributes));
+    accepted("most tags", "<a><b>x</b>" + QByteArray("<c/>").repeated(PlainXml::MaxTags - 4) + "</a>");
+    accepted("text of markup", "<a><b>=='>'&lt;!DOCTYPE a=\"\"</b></a>", "=='>'<!DOCTYPE a=\"\""_s);
+    accepted("DOCTYPE in places of text",
+             "<?x <!DOCTYPE a ?><!--<!DOCTYPE a--><a x='!DOCTYPE'><![CDATA[<!DOCTYPE a]]><b>x</b></a>"
+             "<!-- <!DOCTYPE a> -->");
 
     refused("empty", "");
     refused("open end", "<a><b>x</b>");
     refused("two roots", "<a><b>x</b></a><a/>");
     refused("undeclared entity", "<a><b>&e;</b></a>");
     refused("broken UTF-8", "<a><b>\xff\xfe x</b></a>");
-    refused("document type", "<!DOCTYPE a><a><b>x</b></a>");
     refused("document type in UTF-16", utf16->fromUnicode("<!DOCTYPE a><a><b>x</b></a>"_s));
-    refused("entity bomb", entityBomb());
+    for (const char* plain : {"UTF-16LE", "UTF-16BE"})
+        refused(plain, QTextCodec::codecForName(plain)->fromUnicode("<!DOCTYPE a><a><b>x</b></a>"_s));
+    refused("CDATA before the root", "<![CDATA[<!DOCTYPE a>]]><a><b>x</b></a>");
+    refused("end of a declaration in quotes",
+            "<?xml version='1.0?><!--' encoding='UTF-8'?><!DOCTYPE a [--><a><b>x</b></a>");
+    unseen("document type", "<!DOCTYPE a><a><b>x</b></a>");
+    unseen("behind a mark and comments", "\xef\xbb\xbf<?x?><!-- - -->\n<!DOCTYPE a><a><b>x</b></a>");
+    unseen("behind the root", "<a><b>x</b></a><!DOCTYPE a>");
+    unseen("entity bomb", entityBomb());
+    unseen("attribute lists", filled("<!DOCTYPE a [", "<!ATTLIST a n CDATA ''>", "]><a><b>x</b></a>"));
+    unseen("900 attributes in each tag", filled("<a>", withAttributes(900), "</a>"));
+    unseen("megabyte of siblings", filled("<a><b>x</b>", "<c/>", "</a>"));
+    unseen("megabyte of comments", filled("<a><b>x</b>", "<!---->", "</a>"));
     refused("one too deep", nested(GuardedXml::MaxDepth + 1));
     refused("40000 deep", nested(40000));
     refused("one byte too large", ofSize(GuardedXml::MaxBytes + 1));
-    refused("one attribute too many", withAttributes(GuardedXml::MaxEqualsSigns + 1));
-    refused("100000 attributes", withAttributes(100000).left(int(GuardedXml::MaxBytes)));
+    unseen("one attribute too many", withAttributes(PlainXml::MaxAttributes + 1));
+    unseen("one tag too many", "<a><b>x</b>" + QByteArray("<c/>").repeated(PlainXml::MaxTags - 3) + "</a>");
+    unseen("100000 attributes", withAttributes(100000).left(int(GuardedXml::MaxBytes)));
 }
 
 void TestGuardedXml::contents()
@@ -105,6 +127,8 @@ void TestGuardedXml::contents()
     QFETCH(QByteArray, bytes);
     QFETCH(bool, accepted);
     QFETCH(QString, text);
+    QFETCH(bool, unseen);
+    QVERIFY(!unseen || !isPlainXml(QString::fromUtf8(bytes)));
     const QString path = m_dir.filePath("file.xml"_s);
     QVERIFY(writeFile(path, bytes));
 
