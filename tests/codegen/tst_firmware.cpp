@@ -1,162 +1,251 @@
-#include "designs.h"
 #include "firmware/firmwarebuild.h"
-#include "model/divisors.h"
-#include "model/seriestraits.h"
+#include "pages/pagefixture.h"
 #include "testdata.h"
-
-#include <QtTest>
 
 #include <QTemporaryDir>
 
-#include <random>
+#include <cmath>
 
 namespace {
-/// The rest of a design at random, in values that the pages offer.
-class Dice
+/// A number as a page shows it, with three decimals of its unit.
+struct Reading
+{
+    double value = 0.0;
+    double inMegahertz = 1.0;
+};
+
+/// What a page shows of a design, and what its limits say of it.
+struct Shown
+{
+    /// By output; what the page cannot say or says of another clock is not in it.
+    QMap<QString, Reading> clocks;
+    /// All that is switched on.
+    QSet<QString> on;
+    QMap<QString, QString> pins;
+    QSet<QString> brokenLimits;
+    /// The PLL is started on a hext that nothing starts: the program waits for it for good, as it should.
+    bool waits = false;
+};
+
+std::optional<Reading> readingOf(const QString& text)
+{
+    static const QRegularExpression number(QStringLiteral(R"(\d+(\.\d+)?)"));
+    const auto match = number.match(text);
+    if (!match.hasMatch())
+        return {};
+    return Reading{match.captured().toDouble(), text.contains("kHz"_s) ? 0.001 : 1.0};
+}
+
+/// Reads a page as a user does.
+class Reader
 {
 public:
-    explicit Dice(unsigned seed) : m_numbers(seed) {}
-    int upTo(int last) { return static_cast<int>(m_numbers() % static_cast<unsigned>(last + 1)); }
-    bool coin() { return upTo(1) != 0; }
-    template <class List>
-    typename List::value_type of(const List& list)
+    explicit Reader(const PageFixture& page) : m_page(page), m_description(page.page->description()) {}
+
+    Shown read()
     {
-        return list[static_cast<std::size_t>(upTo(static_cast<int>(list.size()) - 1))];
+        const ZN64ConfigCLK& model = m_page.model();
+        take("sclk"_s, "m_sclk_lineEdit"_s);
+        take("ahb"_s, "m_todma_lineEdit"_s);
+        for (const char* bus : {"apb1", "apb2", "apb3"})
+            if (exists(busEdit(bus)))
+                take(QLatin1String(bus), busEdit(bus));
+        take("apb1tmr"_s, "m_toapb1tmr_lineEdit"_s);
+        take("apb2tmr"_s, "m_toapb2tmr_lineEdit"_s);
+        if (m_page.tree().usbOn())
+            take("usb"_s, "m_usbclock_Label"_s);
+        if (model.Get_ToRTC_Switch())
+            take("rtc"_s, "m_tortc_lineEdit"_s, " kHz"_s);
+        if (m_description.adcDivider && model.Get_ToADC_Switch())
+            take("adc"_s, "m_toadc_lineEdit"_s);
+        for (const ClockOutput& output : m_description.clockOutputs)
+            readOutput(output);
+        for (const PeripheralClock& clock : m_description.peripherals)
+            readPeripheral(clock);
+        readLimits();
+        m_shown.waits = model.pll_isEnable() && model.Get_PLLRC() == PLLRC_HEXT && !model.hext_isEnable();
+        return m_shown;
     }
 
 private:
-    std::mt19937 m_numbers;
+    static QString busEdit(const char* bus)
+    {
+        return QStringLiteral("m_to%1peripheral_lineEdit").arg(QLatin1String(bus));
+    }
+    bool exists(const QString& control) const { return m_page.page->findChild<QWidget*>(control); }
+
+    void take(const QString& output, const QString& control, const QString& unit = {})
+    {
+        m_shown.on += output;
+        const auto* widget = m_page.page->findChild<QWidget*>(control);
+        if (!widget)
+            qFatal("no control %s", qPrintable(control));
+        if (const auto reading = readingOf(widget->property("text").toString() + unit))
+            m_shown.clocks.insert(output, *reading);
+    }
+
+    void readOutput(const ClockOutput& output)
+    {
+        const ZN64ConfigCLK& model = m_page.model();
+        const double pin = output.pinField.get(model);
+        if (pin == 0.0)
+            return;
+        const QString name = QLatin1String(output.stem);
+        for (const PinChoice& choice : output.pins)
+            if (choice.number == pin)
+                m_shown.pins.insert(name, QLatin1String(choice.text));
+        for (const ClockOutputRow& row : output.rows) {
+            if (row.value != output.field.get(model) || row.source == ClockSource::None)
+                continue;
+            take(name, QStringLiteral("m_%1_Value_QLabel").arg(name));
+            // Where the ADC has a source of its own, the model's ADC clock is not the ADC's.
+            const bool ownSource = !m_description.adcDivider && model.Get_ToADC_Switch();
+            if (row.source == ClockSource::Untold || (row.source == ClockSource::Adc && ownSource))
+                m_shown.clocks.remove(name);
+        }
+    }
+
+    void readPeripheral(const PeripheralClock& clock)
+    {
+        const ZN64ConfigCLK& model = m_page.model();
+        if (clock.on.get(model) == 0.0)
+            return;
+        const QString stem = QLatin1String(clock.stem);
+        const QString name = stem == "can"_s ? "can1"_s : stem;
+        for (const PeripheralSource& source : clock.sources) {
+            if (source.number != clock.source.get(model))
+                continue;
+            if (source.shown != ClockSource::Outside)
+                take(name, QStringLiteral("m_to%1_lineEdit").arg(stem),
+                     source.shown == ClockSource::Lext ? " kHz"_s : QString());
+            // Shown is the system clock, taken is the PLL's.
+            if (qstrcmp(source.name, "pll") == 0 && source.shown == ClockSource::Sclk &&
+                !m_page.tree().sclkFromPll())
+                m_shown.clocks.remove(name);
+        }
+    }
+
+    void readLimits()
+    {
+        const ZN64ConfigCLK& model = m_page.model();
+        const bool normal = model.Get_ConfigMode() == PLLMODE_NORMAL && m_description.pllMultiplier;
+        static const QMap<ClockSource, QString> names{
+            {ClockSource::Sclk, "sclk ahb ldo"_s},
+            {ClockSource::Apb1, "apb1"_s        },
+            {ClockSource::Apb2, "apb2"_s        },
+            {ClockSource::Apb3, "apb3"_s        },
+            {ClockSource::Pll,  "pll"_s         }
+        };
+        for (const Limit& limit : m_description.onGenerating)
+            if (!limit.question && limits::breaks(limit, clockValue(limit.clock, model), normal))
+                breakLimits(names[limit.clock]);
+        if (m_description.generatedApb3 && model.Get_APB3CLKValue() > *m_description.generatedApb3)
+            breakLimits("apb3"_s);
+        const double input = model.GetPllInPutValue() / (normal ? 1 : model.Get_PLL_MS());
+        const double vco = input * model.Get_PLL_NS();
+        if (!(input >= 2.0 && input <= 16.0))
+            m_shown.brokenLimits += "pll input"_s;
+        if (!normal && !(vco >= 500.0 && vco <= model.traits().vcoTop()))
+            m_shown.brokenLimits += "vco"_s;
+    }
+
+    void breakLimits(const QString& names)
+    {
+        for (const QString& name : names.split(u' '))
+            m_shown.brokenLimits += name;
+    }
+
+    const PageFixture& m_page;
+    const PageDescription& m_description;
+    Shown m_shown;
 };
 
-void throwDividers(ZN64ConfigCLK& clock, Dice& dice)
+/// Nothing that a page lets a user choose starts these: an output has no clock then, as it should.
+bool mayBeOff(const QString& output, const QString& source)
 {
-    clock.Set_Hext_Input_Value(4.0 + dice.upTo(42) * 0.5);
-    clock.Set_AHBDIV(dice.of(divisors::ahb));
-    clock.Set_APB1DIV(dice.of(divisors::apb));
-    clock.Set_APB2DIV(dice.of(divisors::apb));
-    clock.Set_PLL_MUL(2 + dice.upTo(62));
-    clock.Set_PLL_NS(31 + dice.upTo(200));
-    clock.Set_PLL_MS(1 + dice.upTo(3));
-    clock.Set_PLL_FR(dice.of(divisors::pllFr));
-    clock.Set_USBDIV(dice.of(divisors::usbHalfStepsTo4));
-    clock.Set_ToADCDIV(dice.of(divisors::adc));
+    return output.startsWith("clockout"_s)
+               ? source == "lick"_s || source == "lext"_s
+               : output.startsWith("can"_s) && (source == "hext"_s || source == "pll"_s);
 }
 
-void throwMainFile(ZN64ConfigCLK& clock, Dice& dice)
+/// What differs between the page and the chip; empty if nothing does.
+QStringList differences(const Shown& shown, const firmware::Run& run)
 {
-    clock.Set_Hext_Bypass_Value(dice.coin());
-    clock.Set_Lext_Bypass_Value(dice.coin());
-    clock.Set_ToRTC_Switch(dice.coin());
-    clock.Set_RTCSEL(static_cast<RTCSEL>(dice.upTo(2)));
-    clock.Set_RTC_DIV(dice.of(divisors::rtc));
-    clock.Set_ToADC_Switch(dice.coin());
-    clock.Set_CLKOUT_PinSelect(dice.upTo(1));
-    clock.Set_CLKOUT(dice.upTo(9));
-    clock.Set_CLKOUT1_PinSelect(dice.upTo(2));
-    clock.Set_CLKOUT1(dice.upTo(3));
-    clock.Set_CLKOUT1_Div1(dice.of(divisors::clockOutputFirst));
-    clock.Set_CLKOUT1_Div2(dice.of(divisors::clockOutput));
-    clock.Set_CLKOUT2_PinSelect(dice.upTo(1));
-    clock.Set_CLKOUT2(dice.upTo(7));
-    clock.Set_CLKOUT2_Div1(dice.of(divisors::clockOutputFirst));
-    clock.Set_CLKOUT2_Div2(dice.of(divisors::clockOutput));
+    QStringList lines = run.faults;
+    for (const QString& limit : run.limits - shown.brokenLimits)
+        lines += "limit "_s + limit;
+    if (shown.waits != !run.stuck.isEmpty() || (shown.waits && run.stuck != "pll"_s))
+        lines += "waits for "_s + run.stuck;
+    if (!run.stuck.isEmpty())
+        return lines;
+    for (auto dead = run.dead.begin(); dead != run.dead.end(); ++dead)
+        if (!mayBeOff(dead.key(), dead.value()))
+            lines += dead.key() + " without a clock from "_s + dead.value();
+    for (auto clock = shown.clocks.begin(); clock != shown.clocks.end(); ++clock) {
+        const double real = run.clocks.value(clock.key(), 0.0) / clock->inMegahertz;
+        if (!run.dead.contains(clock.key()) && std::abs(real - clock->value) > 0.00051)
+            lines += QStringLiteral("%1: shown %2, is %3").arg(clock.key()).arg(clock->value).arg(real);
+    }
+    for (const QString& output : run.clocks.keys() + run.dead.keys())
+        if (!shown.on.contains(output))
+            lines += output + " is on, the page shows it off"_s;
+    if (shown.pins != run.pins)
+        lines += "pins "_s + run.pins.values().join(u' ');
+    return lines;
+}
+
+int designsPerSeries()
+{
+    const int wanted = qEnvironmentVariableIntValue("CLOCKWRIGHT_DESIGNS");
+    return wanted > 0 ? wanted : 12;
 }
 } // namespace
 
-/// Many generated programs, compiled without warnings and run on the stand-in chip: what they set must be
-/// what the model calculated.
+/// Generated programs of all series, compiled without warnings and run on the stand-in chip: what they set
+/// must be what the page shows, and no step on the way may break a limit.
 class FirmwareTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void runsAsCalculated_data()
+    void runsAsShown_data() { pageRows(); }
+    void runsAsShown()
     {
-        QTest::addColumn<int>("series");
-        QTest::addColumn<int>("sclk");
-        QTest::addColumn<int>("pllSource");
-        QTest::addColumn<int>("usb"); // 0 off, 1 from the PLL, 2 from hick
-        QTest::addColumn<unsigned>("seed");
-        unsigned seed = 1;
-        for (int series : {ZN64G110, ZN64G150})
-            for (int sclk : {SYSCLK_HEXT, SYSCLK_PLL, SYSCLK_HICK})
-                for (int pllSource : {PLLRC_HEXT, PLLRC_HICK})
-                    for (int usb = 0; usb <= (series == ZN64G110 ? 1 : 2); ++usb)
-                        for (int i = 0; i < 2; ++i, ++seed)
-                            QTest::addRow("series %d sclk %d pll %d usb %d seed %u", series, sclk, pllSource,
-                                          usb, seed)
-                                << series << sclk << pllSource << usb << seed;
-    }
-
-    void runsAsCalculated()
-    {
-        QFETCH(int, series);
-        QFETCH(int, sclk);
-        QFETCH(int, pllSource);
-        QFETCH(int, usb);
-        QFETCH(unsigned, seed);
-        Dice dice(seed);
-        ZN64ConfigCLK clock = pageDesign(static_cast<ZN64MCUSERIALS>(series));
-        throwDividers(clock, dice);
-        throwMainFile(clock, dice);
-        clock.Set_SYSCLKSelect(sclk);
-        clock.Set_PLLRC(pllSource);
-        clock.Set_PLLHEXTDIV(dice.upTo(1));
-        clock.Set_HICK_TO_SCLK(series == ZN64G110 ? int(HICK_TO_SCLK_NODIV) : dice.upTo(1));
-        clock.Set_TO_USB_Switch(usb == 0 ? TO_USB_SWITCH_DISABLE : TO_USB_SWITCH_ENABLE);
-        clock.Set_HICK_TO_USB(usb == 2 ? HICK_TO_USB_ENABLE : HICK_TO_USB_DISABLE);
-        clock.CalculateCLK();
-
-        QTemporaryDir base;
-        QVERIFY(firmware::generate(clock, base.path(), stemOf(clock)));
-        const firmware::Run run = firmware::run(base.path(), stemOf(clock));
-        QCOMPARE(run.errors, QString());
-        const auto near = [&run](const char* name, double megahertz) {
-            const qint64 wanted = qRound64(megahertz * 1e6);
-            return qAbs(run.clocks.value(QLatin1String(name), -1) - wanted) <= 1;
-        };
-        QVERIFY(near("sclk", clock.Get_SYSCLKValue()));
-        QVERIFY(near("ahb", clock.Get_AHBCLKValue()));
-        QVERIFY(near("apb1", clock.Get_APB1CLKValue()));
-        QVERIFY(near("apb2", clock.Get_APB2CLKValue()));
-        if (usb != 0)
-            QVERIFY(near("usb", usb == 2 ? clock.Get_Hick_Input_Value() : clock.Get_USBCLKValue()));
-        const bool rtc = clock.Get_ToRTC_Switch();
-        QCOMPARE(run.clocks.value("pll"_s) != 0, clock.pll_isEnable());
-        QCOMPARE(run.clocks.value("hext"_s) != 0,
-                 clock.hext_isEnable() || (rtc && clock.Get_RTCSEL() == RTCSEL_HEXT));
-        QCOMPARE(run.clocks.value("lext"_s) != 0, rtc && clock.Get_RTCSEL() == RTCSEL_LEXT);
-        const QString codes[] = {"2"_s, "1"_s, "3"_s}; // of the register, by RTCSEL
-        QCOMPARE(run.calls.filter("rtc_clock_select"_s).join(u'/').section(u' ', 1, 1),
-                 rtc ? codes[clock.Get_RTCSEL()] : QString());
-    }
-
-    /// The stand-in chip is no check if it accepts everything.
-    void findsFaults()
-    {
-        ZN64ConfigCLK clock = namedDesign("g150_pll"_s);
-        using Row = std::tuple<const char*, const char*, const char*, const char*>;
-        const char* const source = "src/zn64g150_152_clock.c";
-        for (const auto& [file, from, to, message] :
-             {Row(source, "  crm_clock_source_enable(CRM_CLOCK_SOURCE_HEXT, TRUE);", "",
-                  "waits for a source that is off"),
-              Row(source, "step_mode_enable(TRUE)", "step_mode_enable(FALSE)", "step mode does not fit"),
-              Row(source, "CRM_APB1_DIV_4", "CRM_APB2_DIV_4", "implicit conversion"),
-              Row("src/main.c", "  system_clock_config();", "  [#rtc hext]", "error")}) {
-            QTemporaryDir base;
-            QVERIFY(firmware::generate(clock, base.path(), stemOf(clock)));
-            QFile edited(base.filePath(QLatin1String(file)));
-            QVERIFY(edited.open(QIODevice::ReadWrite));
-            QByteArray text = edited.readAll();
-            QVERIFY(text.contains(from));
-            QVERIFY(edited.resize(0));
-            edited.write(text.replace(from, to));
-            edited.close();
-            const QString errors = firmware::run(base.path(), stemOf(clock)).errors;
-            QVERIFY2(errors.contains(QLatin1String(message)), qPrintable(errors));
+        QFETCH(QString, word);
+        const PageFixture page(word);
+        const QString stem = QLatin1String(page.page->description().stem);
+        QRandomGenerator random(static_cast<quint32>(page.model().series()));
+        const QTemporaryDir base;
+        QVector<Shown> shown;
+        for (int design = 0; design < designsPerSeries(); ++design) {
+            if (design > 0)
+                page.takeRandomSteps(12, random);
+            shown += Reader(page).read();
+            QVERIFY(firmware::generateDesign(page.model(), base.path(), design, stem));
         }
+        QString errors;
+        const QVector<firmware::Run> runs = firmware::run(base.path(), shown.size(), stem, word, errors);
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
+        QCOMPARE(runs.size(), shown.size());
+        int within = 0;
+        int waiting = 0;
+        int withoutClock = 0;
+        QStringList lines;
+        for (int design = 0; design < shown.size(); ++design) {
+            for (const QString& line : differences(shown[design], runs[design]))
+                lines += QStringLiteral("design %1: %2").arg(design).arg(line);
+            waiting += shown[design].waits;
+            within += runs[design].limits.isEmpty() && !shown[design].waits;
+            withoutClock += !runs[design].dead.isEmpty();
+        }
+        qInfo("%s: %d designs, %d to the end within all limits, %d wait for a PLL whose hext is off, %d "
+              "leave an "
+              "output without its clock",
+              qPrintable(word), int(shown.size()), within, waiting, withoutClock);
+        QVERIFY2(lines.isEmpty(), qPrintable(lines.join(u'\n')));
+        QVERIFY(within > 0);
     }
 };
 
-QTEST_GUILESS_MAIN(FirmwareTest)
+QTEST_MAIN(FirmwareTest)
 #include "tst_firmware.moc"
