@@ -88,10 +88,8 @@ Outcome build(const QString& base, int count, const QString& stem, const QString
          {firmware::folderOf(base, 0), QStringLiteral(FIRMWARE_DIR), QStringLiteral(FIRMWARE_DIR "/include"),
           QStringLiteral(FIRMWARE_HEADERS_DIR)})
         arguments << QStringLiteral("-I") + folder;
-    arguments << source;
-    for (const char* part : {"firmware.c", "clocks.c", "chips.c"})
-        arguments << QStringLiteral(FIRMWARE_DIR "/") + QLatin1String(part);
-    arguments << QStringLiteral("-o") << base + QStringLiteral("/program") << QStringLiteral("-lm");
+    arguments << source << QStringLiteral(FIRMWARE_CHIP) << QStringLiteral("-o")
+              << base + QStringLiteral("/program") << QStringLiteral("-lm");
     return execute(QStringLiteral(FIRMWARE_COMPILER), arguments);
 }
 
