@@ -23,8 +23,8 @@ bool readBytes(const QString& path, QByteArray& bytes)
     return bytes.size() <= GuardedXml::MaxBytes;
 }
 
-// The encoding that the bytes show by themselves or declare. Looked up without a parser, which would go on into
-// a DOCTYPE to find the declaration's end.
+// The encoding that the bytes show by themselves or declare. Looked up without a parser, which would go on
+// into a DOCTYPE to find the declaration's end.
 QTextCodec* codecOf(const QByteArray& bytes)
 {
     // UTF-16 without a byte order mark.

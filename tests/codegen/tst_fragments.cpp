@@ -4,7 +4,7 @@
 
 using Fragment = bool (Clock::*)(QString&) const;
 
-/// The fragments where series differ, on texts as short as they can be, and what each series' chains need.
+/// The fragments where series differ, on texts as short as they can be.
 class FragmentsTest : public QObject
 {
     Q_OBJECT
@@ -14,7 +14,6 @@ private slots:
     void usbAndSclk();
     void clockOutputs();
     void peripherals();
-    void chainsTouchTheirSections();
 };
 
 namespace {
@@ -174,88 +173,6 @@ void FragmentsTest::peripherals()
                c.Set_ToRTC_Switch(true);
                c.Set_RTCSEL(RTCSEL_LEXT);
            });
-}
-
-namespace {
-/// The text that a word of the table stands for: a line of a template, or sections given by their names
-/// alone.
-QString clockPiece(const QString& word)
-{
-    static const QMap<QString, const char*> pieces{
-        {QStringLiteral("psr"),     "[#flash psr]\nflash_psr_set(A);\n[/#flash psr]\n"                 },
-        {QStringLiteral("ldo"),     "pwc_ldo_output_voltage_set(A);\n"                                 },
-        {QStringLiteral("flash"),   "flash_clock_divider_set(A);\n"                                    },
-        {QStringLiteral("bypass"),  "hext bypass"                                                      },
-        {QStringLiteral("hext"),    "enable hext,hext sysclock"                                        },
-        {QStringLiteral("hick"),    "enable hick,hick sysclock"                                        },
-        {QStringLiteral("hextdiv"), "enable hextdiv"                                                   },
-        {QStringLiteral("pll"),     "enable pll,pll sysclock"                                          },
-        {QStringLiteral("step"),    "enable auto step mode,disable auto step mode"                     },
-        {QStringLiteral("usb"),     "pll usbclock"                                                     },
-        {QStringLiteral("hickusb"), "hick usbclock"                                                    },
-        {QStringLiteral("apb3"),    "crm_apb3_div_set(A);\n"                                           },
-        {QStringLiteral("buses"),   "crm_ahb_div_set(A);\ncrm_apb1_div_set(A);\ncrm_apb2_div_set(A);\n"},
-        {QStringLiteral("comment"), "* @brief  system clock config program\n  * @retval none\n"        }
-    };
-    const QString piece = QLatin1String(pieces.value(word));
-    if (piece.endsWith(u'\n'))
-        return piece;
-    QString sections;
-    for (const QString& name : piece.split(u','))
-        sections += QStringLiteral("[#%1]\nx;\n[/#%1]\n\n").arg(name);
-    return sections;
-}
-
-QString mainPiece(const QString& word)
-{
-    const bool output = word.startsWith(QLatin1String("clkout"));
-    return QStringLiteral("[#%1 function]\nx;\n[/#%1 function]\n\n  mx_%2_init();\n\n  x;\n")
-        .arg(word, output ? word : word + QStringLiteral("_clock"));
-}
-
-/// A chain must resolve the text of all words, and refuse a text that lacks one.
-void checkChain(const Clock& clock, const QString& words, Fragment generate, QString (*piece)(const QString&))
-{
-    const QStringList all = words.split(u' ');
-    for (int missing = -1; missing < all.size(); ++missing) {
-        QString text;
-        for (int i = 0; i < all.size(); ++i)
-            text += i == missing ? QString() : piece(all[i]);
-        const QString place = clock.traits().name() + u' ' + all.value(missing);
-        QVERIFY2((clock.*generate)(text) == (missing < 0), qPrintable(place));
-        if (missing < 0)
-            QVERIFY2(!text.contains(QRegularExpression(QStringLiteral(R"(#|\(A\)|mx_)"))), qPrintable(text));
-    }
-}
-} // namespace
-
-void FragmentsTest::chainsTouchTheirSections()
-{
-    const char* const plainMain = "clkout rtc adc";
-    // Series, what their clock sources must carry beside the buses, and what their main files must.
-    using Row = std::tuple<const char*, const char*, const char*>;
-    for (const auto& [series, clockWords, mainWords] :
-         {Row("G110", "bypass hext hick pll usb", plainMain),
-          Row("G110R G114 H110R", "bypass hext hick hextdiv pll step usb hickusb", plainMain),
-          Row("G120", "bypass hext hick pll step usb hickusb", plainMain),
-          Row("G130", "psr bypass hext hick pll step", plainMain),
-          Row("G135 G125 TQ125", "psr bypass hext hick pll step usb hickusb", plainMain),
-          Row("D042", "psr ldo bypass hext hick pll", "clkout rtc adc i2c usart"),
-          Row("G133 H133", "psr ldo bypass hext hick pll step usb hickusb", "clkout rtc adc i2c usart"),
-          Row("G171 G174 G190", "psr ldo bypass hext hick pll step usb hickusb", "clkout rtc i2sf5"),
-          Row("G165 G166 G167", "psr ldo bypass hext hick pll step usb hickusb apb3", "clkout rtc can i2sf5"),
-          Row("P212 P216", "psr ldo bypass hext hick pll step apb3", "clkout rtc can"),
-          Row("G142 G146", "psr ldo bypass hext hick pll step apb3", "clkout rtc adc can"),
-          Row("G150 G152", "ldo flash bypass hext hick pll step usb hickusb", "clkout1 clkout2 rtc")}) {
-        for (const QString& word : QString::fromLatin1(series).split(u' ')) {
-            Clock design = clockOf(word);
-            design.Set_SYSCLKSelect(7); // none of the three: every section goes away
-            design.Set_TO_USB_Switch(TO_USB_SWITCH_DISABLE);
-            checkChain(design, QLatin1String(clockWords) + QLatin1String(" buses comment"),
-                       &Clock::GenerateClockSource, clockPiece);
-            checkChain(design, QLatin1String(mainWords), &Clock::GenerateMainSource, mainPiece);
-        }
-    }
 }
 
 QTEST_GUILESS_MAIN(FragmentsTest)

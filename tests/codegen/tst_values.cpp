@@ -54,12 +54,6 @@ Expected counted(const char* pattern, const char* words, int first = 0, int othe
     };
 }
 
-/// The macro takes any number.
-Expected anyNumber(const char* pattern)
-{
-    return [pattern = QString::fromLatin1(pattern)](int value) { return pattern.arg(value); };
-}
-
 /// Series separated by blanks get a row each.
 void row(const char* name, const MacroOf& macro, const Expected& expected, const char* series = "G110")
 {
@@ -75,23 +69,14 @@ void row(const char* name, const MacroOf& macro, const Expected& expected, const
 void pllRows()
 {
     row(FIELD(PLLRC, OscInitType_PLLRC), counted("CRM_PLL_SOURCE_%1", "HEXT_DIV HICK", 0, 1));
-    row(FIELD(PLLRC, OscInitType_PLLRC), counted("CRM_PLL_SOURCE_%1", "HEXT HICK", 0, 1), "G150 P212");
     row(FIELD(PLLHEXTDIV, OscInitType_PLLRC), counted("CRM_PLL_SOURCE_%1", "HEXT HEXT_DIV", 0, 1));
     row(FIELD(SYSCLKSelect, OscInitType_PLLRC), counted("CRM_PLL_SOURCE_%1", "HEXT HEXT_DIV"), "G130");
-    row(FIELD(HEXT_DIV, OscInitType_HextDiv), anyNumber("CRM_HEXT_DIV_%1"), "G114");
     row(FIELD(HEXT_DIV, OscInitType_HextDiv), counted("%1", ""), "G150");
-    row(NORMAL(PLL_MUL, OscInitType_PLLMULT), anyNumber("CRM_PLL_MULT_%1"));
     row(FIELD(PLL_MUL, OscInitType_PLLMULT), counted("%1", ""));
-    row(FIELD(PLL_MS, OscInitType_PLLMS), anyNumber("%1"));
     row(NORMAL(PLL_MS, OscInitType_PLLMS), listed("%1", "1"));
-    row(FIELD(PLL_NS, OscInitType_PLLNS), anyNumber("%1"));
     row(NORMAL(PLL_NS, OscInitType_PLLNS), listed("%1", "31"));
-    row(FIELD(PLL_FR, OscInitType_PLLFR), listed("CRM_PLL_FR_%1", "1 2 4 8 16 32"));
     row(NORMAL(PLL_FR, OscInitType_PLLFR), listed("CRM_PLL_FR_%1", "1"));
-    row(FIELD(PLL_FP, OscInitType_PLLFP),
-        listed("CRM_PLL_FP_%1", "1 2 4 6 8 10 12 14 16 18 20 22 24 26 28 30"), "G171");
     row(NORMAL(PLL_FP, OscInitType_PLLFP), listed("CRM_PLL_FP_%1", "1"), "G171");
-    row(FIELD(PLL_FU, OscInitType_PLLFU), listed("CRM_PLL_FU_%1", "11 12 13 14 16 18 20"), "G171");
     row(NORMAL(PLL_FU, OscInitType_PLLFU), listed("CRM_PLL_FU_%1", "11"), "G171");
     row(FIELD(SYSCLKSelect, OscInitType_PLLOutputRange), counted("%1", " CRM_PLL_OUTPUT_RANGE_LE72MHZ"),
         "G130");
@@ -99,14 +84,7 @@ void pllRows()
 
 void busRows()
 {
-    const char* const apb = "1 2 4 8 16";
     row(FIELD(SYSCLKSelect, SysClkInitType_SYSCLKSel), counted("CRM_SCLK_%1", "HEXT PLL HICK", 0, 1));
-    row(FIELD(AHBDIV, SysClkInitType_AHBClkDivider), listed("CRM_AHB_DIV_%1", "1 2 4 8 16 64 128 256 512"));
-    row(FIELD(APB1DIV, SysClkInitType_APB1ClkDivider), listed("CRM_APB1_DIV_%1", apb));
-    row(FIELD(APB2DIV, SysClkInitType_APB2ClkDivider), listed("CRM_APB2_DIV_%1", apb));
-    row(FIELD(APB3DIV, SysClkInitType_APB3ClkDivider), listed("CRM_APB3_DIV_%1", apb));
-    row(FIELD(HEXT_DIV, HEXTDIV_Define_String), listed("CRM_HEXT_SCLK_DIV_%1", "1 2 4 8 16 32"));
-    row(FIELD(SCLKHICK_DIV, HICKDIV_Define_String), listed("CRM_HICK_SCLK_DIV_%1", apb));
     const auto usb = [](double quarters) {
         return [=](Clock& clock, double value) {
             clock.Set_USBDIV(value / 2 + quarters / 4);
@@ -123,15 +101,6 @@ void busRows()
 
 void outputRows()
 {
-    const char* const divisors = "1 2 4 8 16 64 128 256 512";
-    row(FIELD(CLKOUT, CLKOUT_Define_String),
-        counted("CRM_CLKOUT_%1", "NOCLK LICK LEXT HICK HEXT SCLK USB ADC PLL_DIV_2 PLL_DIV_4 PLL USBFS"));
-    row(FIELD(CLKOUT1, CLKOUT1_Define_String), counted("CRM_CLKOUT1_%1", "HICK LEXT HEXT PLL"));
-    row(FIELD(CLKOUT2, CLKOUT2_Define_String),
-        counted("CRM_CLKOUT2_%1", "SCLK HEXT PLL USB HICK ADC LICK LEXT"));
-    row(NUMBER(CLKOUT_DIV_Define_String), listed("CRM_CLKOUT_DIV_%1", divisors));
-    row(NUMBER(CLKOUT_DIV1_Define_String), listed("CRM_CLKOUT_DIV1_%1", "1 2 3 4 5"));
-    row(NUMBER(CLKOUT_DIV2_Define_String), listed("CRM_CLKOUT_DIV2_%1", divisors));
     row(NUMBER(CLKOUT_INDEX_Num_String), listed("CRM_CLKOUT_INDEX_%1", "1 2"));
 
     const char* const ports = "A A A B C F E";
@@ -165,21 +134,8 @@ void peripheralRows()
     row(FIELD(RTC_DIV, ERTCDIV_Define_String),
         listed("CRM_ERTC_CLOCK_HEXT_DIV_%1", qPrintable(rtc.join(u' '))));
     row(FIELD(ToADCDIV, ADCDIV_Define_String), listed("CRM_ADC_DIV_%1", "2 3 4 5 6 8 12 16"));
-    row(FIELD(adc_Clock_Source, ADCClockSource_Define_String),
-        counted("CRM_ADC_CLOCK_SOURCE_%1", "HCLK PLLCLK"));
-    row(FIELD(i2c1_Clock_Source, I2CClockSource_Define_String),
-        counted("CRM_I2C_CLOCK_SOURCE_%1", "PCLK SCLK HICK48 HICK"));
-    row(FIELD(i2sf5_Clock_Source, i2sf5ClockSource_Define_String),
-        counted("CRM_I2SF5_CLOCK_SOURCE_%1", "PLLP SCLK HICK EXTERNAL"));
-    const Expected usart = counted("CRM_USART_CLOCK_SOURCE_%1", "PCLK SCLK HICK48 LEXT HICK");
-    row(FIELD(usart1_Clock_Source, Usart1ClockSource_Define_String), usart);
-    row(FIELD(usart2_Clock_Source, Usart2ClockSource_Define_String), usart);
-    row(FIELD(usart3_Clock_Source, Usart3ClockSource_Define_String), usart);
-    row(NUMBER(CANClockSource_Define_String), counted("CRM_CAN_CLOCK_SOURCE_%1", "HEXT PLLU PCLK"),
-        "G165 G166 G167");
-    row(NUMBER(CANClockSource_Define_String), counted("CRM_CAN_CLOCK_SOURCE_%1", "HEXT PLL PCLK"),
-        "G142 G146 P212 P216");
 }
+
 /// The first word of an item in the result comment.
 MacroOf commented(const char* item, void (Clock::*set)(double))
 {

@@ -7,42 +7,12 @@ class TestPropagation : public QObject
     Q_OBJECT
 
 private slots:
-    void frequencies();
     void forcedDividers();
     void wholeTree();
     void pllChecks();
 };
 
 #define CLASSIC "G120 G125 TQ125 G110R G114 H110R G130 G135 D042 G142 G146 "
-#define FP_SERIES "G171 G174 G190 G165 G166 G167 "
-
-void TestPropagation::frequencies()
-{
-    const auto hick = [](auto& m) { m.Set_PLLRC(PLLRC_HICK), m.Set_SCLKHICK_DIV(4); };
-    const auto hick48 = [](auto& m) { m.Set_HICK_TO_SCLK(1), m.Set_SCLKHICK_DIV(16); };
-    const auto hext = [](auto& m) {
-        m.Set_SYSCLKSelect(SYSCLK_HEXT), m.Set_Hext_Input_Value(20.0);
-        m.Set_HEXT_DIV(4), m.Set_PLLHEXTDIV(PLLHEXT_DIV);
-    };
-    const auto flexible = [](auto& m) {
-        m.Set_SYSCLKSelect(SYSCLK_PLL), m.Set_PLL_MS(3), m.Set_PLL_NS(75);
-        m.Set_PLL_FR(2), m.Set_PLL_FP(10);
-    };
-    using Row = std::tuple<const char*, Setup, double, double>; // words, setup, PLL input, SYSCLK
-    for (const auto& [words, setup, pllInput, sysclk] :
-         {Row(CLASSIC, hick, 4.0, 8.0), Row(FP_SERIES "G133 H133 P212 P216", hick, 8.0, 2.0),
-          Row(CLASSIC "G150 G152", hick48, 8.0, 48.0), Row(FP_SERIES "G133 P212", hick48, 8.0, 3.0),
-          Row(CLASSIC, hext, 5.0, 20.0), Row(FP_SERIES "H133 P212", hext, 20.0, 5.0),
-          Row("G150 P216", flexible, 8.0, 100.0), Row(FP_SERIES, flexible, 8.0, 20.0),
-          Row("G133 H133", flexible, 8.0, 50.0)}) {
-        for (ZN64ConfigCLK& model : modelsOf(words)) {
-            setup(model);
-            model.CalculateCLK();
-            QVERIFY2(model.GetPllInPutValue() == pllInput, qPrintable(model.traits().name()));
-            QVERIFY2(model.Get_SYSCLKValue() == sysclk, qPrintable(model.traits().name()));
-        }
-    }
-}
 
 void TestPropagation::forcedDividers()
 {

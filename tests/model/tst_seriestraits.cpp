@@ -2,13 +2,12 @@
 
 #include <QTest>
 
-// What sets one series apart: its limits, and which blocks its selectors put to use.
+// What sets one series apart: which blocks its selectors put to use.
 class TestSeriesTraits : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void highestSysclk();
     void names();
     void pll();
     void oscillators();
@@ -93,17 +92,6 @@ void TestSeriesTraits::oscillators()
     ask("hick: usb", hick, CLASSIC_USB DUAL NEW_USB, usbHick);
     ask("hick: CLKOUT2", hick, DUAL, out2PllHick);
     ask("hextdiv", &ZN64ConfigCLK::hextdiv_isEnable, "G110 " CLASSIC_USB NO_USB, onPll);
-}
-
-void TestSeriesTraits::highestSysclk()
-{
-    using Row = std::pair<int, const char*>;
-    for (const auto& [highest, words] :
-         {Row(288, "G150 G152"), Row(240, "G110R G114"), Row(216, "G171 G174 G190"), Row(180, "P212 P216"),
-          Row(200, "G110 G120 H110R G142 G146"), Row(192, "G165 G166 G167"), Row(150, "G125 TQ125 G133 H133"),
-          Row(120, "G130"), Row(96, "G135"), Row(80, "D042")})
-        for (const ZN64ConfigCLK& model : modelsOf(words))
-            QVERIFY2(model.GetSYSCLKValidMaxValue() == highest, words);
 }
 
 void TestSeriesTraits::names()
