@@ -95,8 +95,9 @@ CustomComboBox1::CustomComboBox1(QWidget* parent)
     setContentsMargins(0, 0, 0, 0);
     setFont(QFont(QStringLiteral("Arial"), 10, 0));
     setView(m_tempListView);
-    setStyleSheet(sheets().normal);
+    // The style first: a sheet that is there already would be worked out once more on top of it.
     setStyle(windowsStyle());
+    setStyleSheet(sheets().normal);
     m_tempListView->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
