@@ -1,7 +1,7 @@
 /* The stand-in library's bodies, and the run of the designs of a batch. A run prints "fault: ..." for what a
    real chip would choke on, "limit: ..." for a limit that is broken, "stuck: ..." if it waits for good, and
-   at the end the clocks in MHz ("= sclk 192.000000000") and what it left without a clock ("dead: can1 on
-   hext"). */
+   at the end the clocks in MHz ("= sclk 192.000000000"), what it left without a clock ("dead: can1 on hext")
+   and how many checks it was put to. */
 #include "batch.h"
 #include "controller.h"
 
@@ -15,6 +15,7 @@ struct controller now;
 const struct chip* chip;
 double hext;
 jmp_buf end_of_run;
+static int checks;
 
 static const struct controller cold = {
     .ahb = 1,
@@ -49,12 +50,14 @@ static const struct controller cold = {
 
 void require(int good, const char* text)
 {
+    ++checks;
     if (!good)
         printf("fault: %s\n", text);
 }
 
 void within(int good, const char* limit)
 {
+    ++checks;
     if (!good)
         printf("limit: %s\n", limit);
 }
@@ -70,12 +73,14 @@ void firmware_loop(const char* condition)
 static void run_design(const struct design* design)
 {
     now = cold;
+    checks = 0;
     firmware_crm.bpdc_bit.rtcsel = firmware_crm.bpdc_bit.ertcsel = 0;
     hext = design->hext / 1e6;
     if (setjmp(end_of_run) == 0) {
         design->run();
         require(0, "main came back");
     }
+    printf("checks: %d\n", checks);
 }
 
 int main(int count, char** words)

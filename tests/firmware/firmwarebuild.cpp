@@ -107,6 +107,8 @@ void take(const QString& line, firmware::Run& run)
         run.stuck = rest;
     else if (kind == QLatin1String("dead:"))
         run.dead.insert(name, last);
+    else if (kind == QLatin1String("checks:"))
+        run.checks = rest.toInt();
     else if (kind == QLatin1String("pin:"))
         run.pins.insert(QLatin1String("clockout") + (name == QLatin1String("0") ? QString() : name), last);
     else

@@ -25,6 +25,8 @@ struct Run
     QMap<QString, QString> dead;
     /// The pin of each clock output.
     QMap<QString, QString> pins;
+    /// How often the chip was held against a limit or a rule on the way.
+    int checks = 0;
 };
 
 /// Generates the four files of the stem below the base folder, as the preview does: without questions.
