@@ -3,12 +3,17 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <fcntl.h>
+
 namespace {
 
+// Does not wait: a pipe that nobody reads would keep the program for good.
 bool writeInPlace(const QString& path, const QByteArray& content)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC);
+    QFile file;
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle))
         return false;
     file.write(content);
     return true;

@@ -17,6 +17,8 @@ namespace {
 
 // Bytes that wait in memory at most when the net is faster than the disk.
 constexpr qint64 ReadBufferSize = 1024 * 1024;
+// Of one connection, as many as a box has room for: a chain of certificates can hold hundreds.
+constexpr int MaxTlsErrors = 20;
 
 QUrl urlFromText(const QString& text)
 {
@@ -316,8 +318,10 @@ void HttpsDownload::sslErrors(QNetworkReply* failing, const QList<QSslError>& er
     // The connection may break, and the reply go, while the box is open.
     const QPointer<QNetworkReply> guard = failing;
     QStringList texts;
-    for (const QSslError& error : errors)
+    for (const QSslError& error : errors.mid(0, MaxTlsErrors))
         texts += error.errorString();
+    if (errors.size() > MaxTlsErrors)
+        texts += QChar(0x2026);
     const int answer = showMessage(
         QMessageBox::Warning, tr("SSL Errors"),
         tr("One or more SSL errors has occurred: ") + tr("\n%1").arg(texts.join(QLatin1Char('\n'))),

@@ -10,6 +10,8 @@
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace {
 
 const QByteArray Older("older");
@@ -51,7 +53,8 @@ private slots:
         QVERIFY(QFile::link("/dev/null"_s, path("device")) && replaceFile(path("device"), "text"));
         QVERIFY(!QFileInfo("/dev/null"_s).isFile() && !replaceFile(m_folder->path(), "text"));
         QVERIFY(!replaceFile(path("no folder/file"), "text"));
-        QCOMPARE(files(), QStringList({"device"_s, "link"_s, "new"_s, "plain"_s}));
+        QVERIFY(mkfifo(qPrintable(path("pipe")), 0600) == 0 && !replaceFile(path("pipe"), "text"));
+        QCOMPARE(files(), QStringList({"device"_s, "link"_s, "new"_s, "pipe"_s, "plain"_s}));
     }
 
     // A full disk is not told of, but takes nothing away.
