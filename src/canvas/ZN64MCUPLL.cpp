@@ -38,11 +38,12 @@ QPixmap pictureFor(qreal pixelRatio, const QString& picture)
 ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* parent)
     : QWidget(parent), m_GraphicsView(new PinGraphicsView),
       m_ZN64ClockConf(std::make_unique<ZN64ConfigCLK>(series)),
-      m_GraphicsScene(std::make_unique<QGraphicsScene>())
+      m_GraphicsScene(std::make_unique<QGraphicsScene>()), m_tabOrder(*m_GraphicsScene)
 {
     m_GraphicsScene->setBackgroundBrush(QBrush(Qt::white, Qt::SolidPattern));
     m_GraphicsView->setRenderHint(QPainter::Antialiasing, true);
     m_GraphicsView->setScene(m_GraphicsScene.get());
+    m_GraphicsView->setTabOrder(&m_tabOrder);
     m_GraphicsView->setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     m_GraphicsView->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255); border: none;"));
     m_GraphicsView->verticalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("width")));
@@ -62,8 +63,12 @@ ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* p
 
 ZN64MCUPLL::~ZN64MCUPLL()
 {
-    // The scene goes first and takes the embedded controls along; the view must not look at it any more.
+    // The scene goes first and takes the embedded controls along; neither the view nor the walk must look at
+    // it any more.
+    m_tabOrder.setControls({});
+    m_GraphicsView->setTabOrder(nullptr);
     m_GraphicsView->setScene(nullptr);
+    m_GraphicsScene.reset();
 }
 
 void ZN64MCUPLL::SetLineEditColor(QLineEdit* edit, const QColor& color)

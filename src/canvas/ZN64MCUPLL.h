@@ -2,6 +2,7 @@
 
 #include "canvas/CustomQControl.h"
 #include "canvas/pingraphicsview.h"
+#include "canvas/taborder.h"
 #include "model/ZN64ConfigCLK.h"
 
 #include <QDialog>
@@ -42,6 +43,8 @@ public:
     ZN64ConfigCLK& model() { return *m_ZN64ClockConf; }
     const ZN64ConfigCLK& model() const { return *m_ZN64ClockConf; }
     PinGraphicsView* view() const { return m_GraphicsView; }
+    /// The walk by the keyboard; the page gives it its controls.
+    TabOrder& tabOrder() { return m_tabOrder; }
 
     static void SetLineEditColor(QLineEdit* edit, const QColor& color);
     static void SetLabelColor(QLabel* label, const QColor& color);
@@ -79,5 +82,6 @@ private:
     PinGraphicsView* m_GraphicsView;
     std::unique_ptr<ZN64ConfigCLK> m_ZN64ClockConf;
     std::unique_ptr<QGraphicsScene> m_GraphicsScene;
+    TabOrder m_tabOrder;
     bool m_hext_enable_flag = false;
 };

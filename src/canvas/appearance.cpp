@@ -25,6 +25,16 @@ void appearance::setText(QLineEdit* edit, const QString& text)
         edit->setText(text);
 }
 
+void appearance::setSpoken(QWidget* control, const QString& name)
+{
+    if (control->accessibleName() == name)
+        return;
+    control->setAccessibleName(name);
+    // Of a list, the toolkit tells the present item in place of its name.
+    control->setAccessibleDescription(name);
+    control->window()->setAccessibleName(name);
+}
+
 void appearance::setRoleColor(QWidget* widget, QPalette::ColorRole role, const QColor& color)
 {
     // The key of the palette tells whether anybody changed it since the colour was set here.

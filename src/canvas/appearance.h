@@ -14,6 +14,9 @@ void setSheet(QWidget* widget, const QString& sheet);
 void setText(QLabel* label, const QString& text);
 void setText(QLineEdit* edit, const QString& text);
 
+/// What assistive tools say of a control of the scene, and of the window that it is to them.
+void setSpoken(QWidget* control, const QString& name);
+
 /// Gives the widget a fresh palette in which only this role has a colour, in all colour groups. Any other
 /// change of the palette made before is dropped.
 void setRoleColor(QWidget* widget, QPalette::ColorRole role, const QColor& color);

@@ -21,10 +21,15 @@ QFont arial(int pointSize, int weight)
 class ControlWrapper : public QDialog
 {
 public:
-    using QDialog::QDialog;
+    ControlWrapper(ZN64MCUPLL& page, Qt::WindowFlags flags) : QDialog(&page, flags), m_page(page) {}
     void reject() override {}
 
 protected:
+    /// Of a control that is greyed while it has the focus, too. One that only had it once leaves it alone.
+    bool focusNextPrevChild(bool next) override
+    {
+        return graphicsProxyWidget() && graphicsProxyWidget()->hasFocus() && m_page.tabOrder().move(next);
+    }
     bool event(QEvent* event) override
     {
         const bool handled = QDialog::event(event);
@@ -36,13 +41,16 @@ protected:
         }
         return handled;
     }
+
+private:
+    ZN64MCUPLL& m_page;
 };
 
 } // namespace
 
 QDialog* ZN64MCUPLL::embed(QWidget* control, int x, int y, QGraphicsProxyWidget** proxy)
 {
-    auto* wrapper = new ControlWrapper(this, Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    auto* wrapper = new ControlWrapper(*this, Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     wrapper->setContentsMargins(0, 0, 0, 0);
     auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
@@ -106,6 +114,8 @@ QLabel* ZN64MCUPLL::NewQLabelInScenePos(const QString& text, int x, int y, int p
     auto* label = new QLabel(text, this);
     label->setFont(arial(pointSize, weight));
     embed(label, x, y, proxy);
+    // A press on it is one on the picture.
+    proxyOf(label)->setFocusPolicy(Qt::NoFocus);
     return label;
 }
 

@@ -1,10 +1,15 @@
 #include "canvas/pingraphicsview.h"
 
+#include "canvas/taborder.h"
+
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace {
@@ -12,6 +17,10 @@ namespace {
 constexpr qreal smallestScale = 0.2;
 constexpr qreal largestScale = 5.0;
 constexpr qreal keyStep = 2.0;
+// The frame of the control that has the focus, picture pixels outside of the control, and as wide.
+constexpr qreal focusFrame = 2.0;
+// Between a control that the keyboard brings into sight and the edge of the view, screen pixels.
+constexpr int sightMargin = 40;
 } // namespace
 
 PinGraphicsView::PinGraphicsView(QWidget* parent) : QGraphicsView(parent)
@@ -120,26 +129,107 @@ void PinGraphicsView::wheelEvent(QWheelEvent* event)
 
 void PinGraphicsView::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
+    // What has the focus, an open list too, gets the key first, and the picture what is left.
+    const bool offered = scene() && scene()->focusItem() && isInteractive();
+    if (offered)
+        QCoreApplication::sendEvent(scene(), event);
+    if ((offered && event->isAccepted()) || takeKey(event->key()))
+        event->accept();
+    else if (offered)
+        QAbstractScrollArea::keyPressEvent(event);
+    else
+        QGraphicsView::keyPressEvent(event);
+}
+
+bool PinGraphicsView::takeKey(int key)
+{
+    const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+    const bool arrow = forward || key == Qt::Key_Left || key == Qt::Key_Up;
+    if (arrow && m_tabOrder && m_tabOrder->moveInGroup(forward))
+        return true;
+    switch (key) {
     case Qt::Key_Plus:
         zoomIn();
-        return;
+        return true;
     case Qt::Key_Minus:
         zoomOut();
-        return;
+        return true;
     case Qt::Key_Left:
         translate(QPointF(-keyStep, 0));
-        return;
+        return true;
     case Qt::Key_Right:
         translate(QPointF(keyStep, 0));
-        return;
+        return true;
     case Qt::Key_Up:
         translate(QPointF(0, -keyStep));
-        return;
+        return true;
     case Qt::Key_Down:
         translate(QPointF(0, keyStep));
-        return;
+        return true;
     default:
-        QGraphicsView::keyPressEvent(event);
+        return false;
     }
+}
+
+void PinGraphicsView::setTabOrder(TabOrder* order)
+{
+    m_tabOrder = order;
+    scene()->disconnect(this);
+    if (order)
+        connect(scene(), &QGraphicsScene::focusItemChanged, this, &PinGraphicsView::followFocus);
+}
+
+void PinGraphicsView::followFocus(QGraphicsItem* now, QGraphicsItem* before, Qt::FocusReason reason)
+{
+    m_tabOrder->focusChanged();
+    // A list that closes leaves the focus nowhere.
+    const auto* proxy = qgraphicsitem_cast<QGraphicsProxyWidget*>(before);
+    if (!now && proxy && proxy->widget() && (proxy->widget()->windowFlags() & Qt::Popup) == Qt::Popup)
+        QTimer::singleShot(0, this, [this] {
+            if (m_tabOrder && !scene()->focusItem())
+                m_tabOrder->restore();
+        });
+    const QWidget* control = m_tabOrder->current();
+    if (control && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
+        ensureVisible(control->window()->graphicsProxyWidget(), sightMargin, sightMargin);
+}
+
+bool PinGraphicsView::event(QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !m_tabOrder)
+        return QGraphicsView::event(event);
+    const auto* pressed = static_cast<const QKeyEvent*>(event);
+    const bool tab = pressed->key() == Qt::Key_Tab;
+    if (!(tab || pressed->key() == Qt::Key_Backtab) || (pressed->modifiers() & ~Qt::ShiftModifier))
+        return QGraphicsView::event(event);
+    const bool next = tab && !(pressed->modifiers() & Qt::ShiftModifier);
+    // Past the last control the focus goes on to the window's other widgets.
+    event->setAccepted(m_tabOrder->move(next) || focusNextPrevChild(next));
+    return true;
+}
+
+void PinGraphicsView::focusInEvent(QFocusEvent* event)
+{
+    const bool tab = event->reason() == Qt::TabFocusReason;
+    if (!m_tabOrder || !(tab || event->reason() == Qt::BacktabFocusReason)) {
+        QGraphicsView::focusInEvent(event);
+        return;
+    }
+    // The scene would choose a control by an order of its own.
+    QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
+    QGraphicsView::focusInEvent(&plain);
+    m_tabOrder->enter(tab);
+}
+
+void PinGraphicsView::drawForeground(QPainter* painter, const QRectF& rect)
+{
+    QGraphicsView::drawForeground(painter, rect);
+    const QWidget* control = m_tabOrder && hasFocus() ? m_tabOrder->current() : nullptr;
+    if (!control)
+        return;
+    const QRectF place = control->window()->graphicsProxyWidget()->sceneBoundingRect();
+    const qreal outside = focusFrame / 2 + 1;
+    painter->setPen(QPen(QColor(0, 32, 82), focusFrame));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(place.adjusted(-outside, -outside, outside, outside), focusFrame, focusFrame);
 }

@@ -2,10 +2,13 @@
 
 #include <QGraphicsView>
 
+class QGraphicsItem;
 class QGraphicsPixmapItem;
+class TabOrder;
 
 /// A view that zooms in small steps between 0.2 and 5.0 and pans by dragging the background picture or by the
-/// arrow keys. It holds no clock logic.
+/// arrow keys. A control that has the focus gets the keys first; Tab walks from control to control, and the
+/// view frames the one that has the focus. It holds no clock logic.
 class PinGraphicsView : public QGraphicsView
 {
     Q_OBJECT
@@ -15,6 +18,8 @@ public:
 
     /// The background item, not owned: only a press on it starts a pan.
     void SetPixMapItem(QGraphicsPixmapItem* item) { m_pixmapItem = item; }
+    /// The walk of its scene's controls, not owned; null ends it. To be called while the scene is set.
+    void setTabOrder(TabOrder* order);
 
     /// Multiplier of a pan, 0.0 to 2.0; anything else is a programming fault.
     void setTranslateSpeed(qreal speed);
@@ -43,8 +48,14 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void drawForeground(QPainter* painter, const QRectF& rect) override;
 
 private:
+    /// Zooms, pans, or steps in a group of radio buttons; false if the key means nothing to the view.
+    bool takeKey(int key);
+    void followFocus(QGraphicsItem* now, QGraphicsItem* before, Qt::FocusReason reason);
     /// A combo box keeps the wheel for itself, with Ctrl too.
     bool isComboAt(QPoint pos) const;
 
@@ -56,4 +67,5 @@ private:
     qreal m_scale = 1.0;
     bool m_focusInControl_Flag = false;
     QGraphicsPixmapItem* m_pixmapItem = nullptr;
+    TabOrder* m_tabOrder = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "pages/ClockTreePage.h"
 
+#include "model/seriestraits.h"
 #include "pages/blocks/FlexiblePllBlock.h"
 #include "pages/blocks/LowSpeedBlock.h"
 #include "pages/blocks/OutputsBlock.h"
@@ -24,6 +25,11 @@ void ClockTreePage::build()
 {
     createBlocks();
     NewAllControl();
+    view()->setAccessibleName(QStringLiteral("clock tree"));
+    view()->setAccessibleDescription(
+        QStringLiteral("The clock tree of the %1: oscillators on the left, then the PLL, "
+                       "the system clock, dividers, and the outputs on the right")
+            .arg(seriesName(model().series())));
     InitAllControl();
     ControlsConnectSlots();
 }

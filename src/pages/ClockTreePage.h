@@ -129,6 +129,9 @@ private:
     void NewAllControl();
     void ControlsConnectSlots();
     const Control& take(const QString& name, ControlType kind);
+    /// Names the control for the program, and for the ear where it can be used.
+    template <class Widget>
+    Widget* identified(const QString& name, const QString& spoken, Widget* control);
     const Setting& setting(const QString& name) const;
     bool TextBox_Input_Valid_Check();
     /// Whether anything but the RTC needs hext, so that its typed value must be good.
@@ -150,6 +153,7 @@ private:
     QHash<QString, std::function<void()>> m_routines;
     QHash<QString, Setting> m_settings;
     QSet<QString> m_takenPlaces;
+    QVector<QWidget*> m_made; ///< what a person can use of the controls that the running routine has made
     bool m_takingDesign = false;
 
     LowSpeedBlock* m_lowSpeed = nullptr;

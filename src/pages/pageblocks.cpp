@@ -35,6 +35,27 @@ const char routinesInOrder[] =
     "New_i2c1clocksel New_canclocksel New_can1clocksel New_can2clocksel New_can3clocksel New_i2sf5clocksel "
     "New_Result New_toperipheral New_tousbhsphy New_totmrmultiply New_totmrdivide New_totadc New_toadcdiv";
 
+/// The same as a person reads the tree and as the keyboard walks it: chain by chain from the oscillators to
+/// the outputs.
+const char routinesInReadingOrder[] =
+    "New_lick New_lext New_lextbypass New_rtcsel New_rtcdiv New_towdt New_tortc "
+    "New_hext New_hextbypass New_hextdiv New_hick New_hickdiv "
+    "New_pllhextdiv New_pllrcs New_pll_mode New_pll_mult New_pll_ms New_pll_ns New_pll_fr New_pll_fp "
+    "New_pllclk New_pll_CFG "
+    "New_hicktosclk New_sclkselect New_Result New_ahbdiv New_apb1div New_apb2div New_apb3div "
+    "New_totmrmultiply New_totmrdivide New_toadcdiv New_totadc New_toperipheral "
+    "New_pll_fu New_usbdiv New_hicktousb New_tousb New_tousbhsphy "
+    "New_adcclocksel New_usart1clocksel New_usart2clocksel New_usart3clocksel New_i2c1clocksel "
+    "New_canclocksel New_can1clocksel New_can2clocksel New_can3clocksel New_i2sf5clocksel "
+    "New_clockout New_clockoutdiv New_clockoutdiv1 New_clockoutdiv2 New_clockoutpinselect "
+    "New_clockout1 New_clockout1div1 New_clockout1div2 New_clockout1pinselect "
+    "New_clockout2 New_clockout2div1 New_clockout2div2 New_clockout2pinselect";
+
+QStringList routines(const char* order)
+{
+    return QString::fromLatin1(order).split(QLatin1Char(' '));
+}
+
 } // namespace
 
 template <class Block, class... Arguments>
@@ -115,9 +136,20 @@ void ClockTreePage::addControls(const char* routine, std::function<void()> make)
 
 void ClockTreePage::NewAllControl()
 {
-    for (const QString& routine : QString::fromLatin1(routinesInOrder).split(QLatin1Char(' ')))
-        if (const std::function<void()> make = m_routines.take(routine))
-            make();
-    if (!m_routines.isEmpty())
-        qFatal("%s has no place in the order of the controls", qPrintable(m_routines.cbegin().key()));
+    QHash<QString, QVector<QWidget*>> madeBy;
+    for (const QString& routine : routines(routinesInOrder)) {
+        const std::function<void()> make = m_routines.take(routine);
+        if (!make)
+            continue;
+        m_made.clear();
+        make();
+        madeBy.insert(routine, m_made);
+    }
+    QVector<QWidget*> readingOrder;
+    for (const QString& routine : routines(routinesInReadingOrder))
+        readingOrder += madeBy.take(routine);
+    if (!m_routines.isEmpty() || !madeBy.isEmpty())
+        qFatal("%s has no place in the orders of the controls",
+               qPrintable((m_routines.keys() + madeBy.keys()).constFirst()));
+    tabOrder().setControls(readingOrder);
 }

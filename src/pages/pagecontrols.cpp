@@ -1,5 +1,6 @@
 #include "pages/ClockTreePage.h"
 
+#include "canvas/appearance.h"
 #include "widgets/named.h"
 
 #include <algorithm>
@@ -22,6 +23,14 @@ const Control& ClockTreePage::take(const QString& name, ControlType kind)
     return control;
 }
 
+template <class Widget>
+Widget* ClockTreePage::identified(const QString& name, const QString& spoken, Widget* control)
+{
+    appearance::setSpoken(control, spoken);
+    m_made += control;
+    return named(name, control);
+}
+
 QStringList ClockTreePage::unusedPlaces() const
 {
     QStringList names = m_description.places.names();
@@ -37,14 +46,17 @@ QLabel* ClockTreePage::placeLabel(const QString& name)
     const Control& place = take(name, ControlType::Label);
     QString text = place.text;
     text.replace(QLatin1String("%1"), QString::number(m_description.typedSclk.highest));
-    return named(name, NewQLabelInScenePos(text, place.x, place.y, place.pointSize, place.weight));
+    QLabel* label = NewQLabelInScenePos(text, place.x, place.y, place.pointSize, place.weight);
+    // Its name is what it shows.
+    label->setAccessibleDescription(place.spoken);
+    return named(name, label);
 }
 
 QLineEdit* ClockTreePage::placeEdit(const QString& name)
 {
     const Control& place = take(name, ControlType::Edit);
     QGraphicsProxyWidget* proxy = nullptr;
-    return named(name, NewCustomLineEditInScenePos(place.text, place.x, place.y, &proxy));
+    return identified(name, place.spoken, NewCustomLineEditInScenePos(place.text, place.x, place.y, &proxy));
 }
 
 QLineEdit* ClockTreePage::placeOutput(const QString& name)
@@ -53,25 +65,26 @@ QLineEdit* ClockTreePage::placeOutput(const QString& name)
     QLineEdit* edit = place.text.isEmpty()
                           ? New_toperipheralControl(place.x, place.y, place.pointSize)
                           : New_toperipheralControl(place.text, place.x, place.y, place.pointSize);
-    return named(name, edit);
+    return identified(name, place.spoken, edit);
 }
 
 CustomComboBox1* ClockTreePage::placeCombo(const QString& name)
 {
     const Control& place = take(name, ControlType::Combo);
-    return named(name, NewComboBoxInScenePos(place.x, place.y, place.width, place.z));
+    return identified(name, place.spoken, NewComboBoxInScenePos(place.x, place.y, place.width, place.z));
 }
 
 QRadioButton* ClockTreePage::placeRadio(const QString& name)
 {
     const Control& place = take(name, ControlType::Radio);
-    return named(name, NewRadioButtonInScenePos(place.x, place.y));
+    return identified(name, place.spoken, NewRadioButtonInScenePos(place.x, place.y));
 }
 
 QPushButton* ClockTreePage::placeListButton(const QString& name, const QString& output)
 {
     const Control& place = m_description.places.at(output);
-    return named(name, New_toperipheralListButton(place.x + buttonRight, place.y + buttonDown, 0));
+    return identified(name, QStringLiteral("list of ") + place.spoken,
+                      New_toperipheralListButton(place.x + buttonRight, place.y + buttonDown, 0));
 }
 
 QDialog* ClockTreePage::placeList(const QString& name, const QStringList& peripherals)

@@ -13,6 +13,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 ZN64PLLConfig::ZN64PLLConfig(QWidget* parent) : QWidget(parent)
@@ -57,6 +58,9 @@ void ZN64PLLConfig::createToolBar()
     // A gap in front of the command that is no zoom.
     m_ToolBar->addWidget(new QLabel(this));
     m_ToolBar->addAction(m_ConfigReset_Action);
+    // A tool bar leaves its buttons out of the keyboard's way round the window.
+    for (QToolButton* button : m_ToolBar->findChildren<QToolButton*>())
+        button->setFocusPolicy(Qt::TabFocus);
 
     auto* row = new QHBoxLayout;
     row->addItem(new QSpacerItem(50, 40, QSizePolicy::Expanding, QSizePolicy::Fixed));

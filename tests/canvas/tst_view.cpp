@@ -120,9 +120,6 @@ private slots:
 
     void keys()
     {
-        // The view keeps its own keys from the control with the focus and passes on all others.
-        m_scene->setFocusItem(m_edit->graphicsProxyWidget());
-        m_edit->setFocus();
         const QPoint before = scrolled();
         const auto press = [this](Qt::Key key) { QTest::keyClick(m_view->viewport(), key); };
         press(Qt::Key_Left);
@@ -136,8 +133,18 @@ private slots:
         QVERIFY(qAbs(scale() - 1.03) < 1e-6);
         press(Qt::Key_Minus);
         QVERIFY(qAbs(scale() - 1.03 * 0.97) < 1e-6);
+        // A control that has the focus gets all of them first, and the view what it does not want.
+        m_scene->setFocusItem(m_edit->graphicsProxyWidget());
+        m_edit->setFocus();
+        const QPoint kept = scrolled();
         press(Qt::Key_7);
-        QCOMPARE(m_edit->text(), "7"_s);
+        press(Qt::Key_Left);
+        QTest::keyClicks(m_view->viewport(), "+-"_s);
+        QCOMPARE(m_edit->text(), "+-7"_s);
+        QCOMPARE(scrolled(), kept);
+        QVERIFY(qAbs(scale() - 1.03 * 0.97) < 1e-6);
+        press(Qt::Key_Up);
+        QVERIFY(scrolled().y() > kept.y());
     }
 
     void dragMovesThePicture()

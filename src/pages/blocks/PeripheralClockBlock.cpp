@@ -105,6 +105,9 @@ void PeripheralClockBlock::UpdateResultControls()
     appearance::setText(m_result,
                         clock->words ? tree().translated(clock->words) : frequencyText(clock->value));
     appearance::setText(m_unit, QLatin1Char('(') + QLatin1String(clock->unit) + QLatin1Char(')'));
+    appearance::setSpoken(
+        m_result,
+        QStringLiteral("%1 clock, %2").arg(QLatin1String(m_clock.stem), QLatin1String(clock->unit)));
 }
 
 void PeripheralClockBlock::clocksel_RadioButton_checkSlot(bool on)

@@ -28,7 +28,6 @@ void UsbBlock::New_tousb()
 
 void UsbBlock::New_hicktousb()
 {
-    New_tousb();
     m_hicktousb_Label = label(QStringLiteral("m_hicktousb_Label"));
     QButtonGroup* group = buttonGroup(QStringLiteral("m_tousb_ButtonGroup"));
     m_tousb_pll_RadioButton = radio(QStringLiteral("m_tousb_pll_RadioButton"), group);
@@ -39,6 +38,7 @@ void UsbBlock::New_hicktousb()
     };
     addSetting("hicktousb", settings::radios(model(), MODEL_FIELD(HICK_TO_USB), m_tousbChoices,
                                              settings::oneOf(valuesOf(m_tousbChoices), HICK_TO_USB_DISABLE)));
+    New_tousb();
 }
 
 void UsbBlock::ControlsConnectSlots()

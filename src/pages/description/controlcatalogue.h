@@ -24,6 +24,8 @@ struct ControlEntry
     int z = 0;
     int pointSize = 10;
     int weight = 0; ///< QFont weight, 75 is bold
+    /// What assistive tools say of it; of an output without, what follows from its text.
+    const char* spoken = "";
 };
 
 /// What feeds an output field.

@@ -22,12 +22,22 @@ void addOutputs(PageDescription& page)
         };
 }
 
+Control spokenAs(const QString& spoken, Control control)
+{
+    control.spoken = spoken;
+    return control;
+}
+
 void addRow(Places& places, const ClockOutput& output, const ClockOutputRow& row)
 {
     const QString stem = QStringLiteral("m_%1_%2").arg(QLatin1String(output.stem), QLatin1String(row.name));
     const ClockOutputColumn& column = output.column;
     const int labelY = row.y + column.labelsDown;
-    places.add(stem + QLatin1String("_RadioButton"), {ControlType::Radio, column.radioX, row.y, QString()});
+    QString spoken = QLatin1String(output.stem);
+    spoken.replace(QLatin1String("clockout"), QLatin1String("clock output "));
+    spoken = spoken.trimmed() + QLatin1String(" from ") + QLatin1String(row.text);
+    places.add(stem + QLatin1String("_RadioButton"),
+               spokenAs(spoken, {ControlType::Radio, column.radioX, row.y, QString()}));
     places.add(stem + QLatin1String("_QLabel1"),
                {ControlType::Label, column.nameX, labelY, QString::fromLatin1(row.text)});
     if (row.source != ClockSource::None)
@@ -67,14 +77,17 @@ void addPeripheral(Places& places, const PeripheralClock& clock)
         places.add(row + QLatin1String("_QLabel"),
                    {ControlType::Label, clock.x, y, QString::fromLatin1(source.name)});
         places.add(row + QLatin1String("_RadioButton"),
-                   {ControlType::Radio, clock.x + sourceRadioRight, y + radioBelowName, QString()});
+                   spokenAs(stem + QLatin1String(" clock from ") + QLatin1String(source.name),
+                            {ControlType::Radio, clock.x + sourceRadioRight, y + radioBelowName, QString()}));
         y += sourcePitch;
     }
     const int middle = (clock.y + firstSourceDown + y) / 2;
     places.add(QLatin1String("m_") + stem + QLatin1String("switch_ComboBox"),
-               {ControlType::Combo, clock.x + switchRight, middle - 14, QString(), 70, 1});
+               spokenAs(stem + QLatin1String(" switch"),
+                        {ControlType::Combo, clock.x + switchRight, middle - 14, QString(), 70, 1}));
     places.add(QLatin1String("m_to") + stem + QLatin1String("_lineEdit"),
-               {ControlType::Output, clock.x + resultRight, middle - 14, QString(), 0, 0, 9});
+               spokenAs(stem + QLatin1String(" clock, MHz"),
+                        {ControlType::Output, clock.x + resultRight, middle - 14, QString(), 0, 0, 9}));
     places.add(QLatin1String("m_to") + stem + QLatin1String("_Label"),
                {ControlType::Label, clock.x + unitRight, middle - 10, QStringLiteral("(MHz)"), 0, 0, 9});
 }

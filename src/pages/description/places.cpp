@@ -4,14 +4,24 @@
 
 namespace {
 
+/// "i2s, MHz" of an output that shows "i2s (MHz)" beside it.
+QString spokenOf(const ControlEntry& entry, const QString& text)
+{
+    if (entry.kind != ControlType::Output || *entry.spoken)
+        return QLatin1String(entry.spoken);
+    return text.section(QLatin1Char('('), 0, 0).trimmed() + QLatin1String(", ") +
+           text.section(QLatin1Char('('), 1).remove(QLatin1Char(')'));
+}
+
 Control placed(const ControlPlace& place)
 {
     const ControlEntry* entry = controlcatalogue::find(QLatin1String(place.name));
     if (!entry)
         qFatal("no control is named %s", place.name);
-    return {
-        entry->kind,  place.x,  place.y,          QString::fromLatin1(place.text ? place.text : entry->text),
-        entry->width, entry->z, entry->pointSize, entry->weight};
+    const QString text = QString::fromLatin1(place.text ? place.text : entry->text);
+    return {entry->kind,           place.x,  place.y,          text,
+            entry->width,          entry->z, entry->pointSize, entry->weight,
+            spokenOf(*entry, text)};
 }
 
 } // namespace

@@ -42,6 +42,7 @@ struct Control
     int z = 0;
     int pointSize = 10;
     int weight = 0;
+    QString spoken = {}; ///< what assistive tools say of it
 };
 
 /// The places of all controls of a series, by name: the one answer to every question of position, for the
