@@ -6,7 +6,6 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QPixmap>
 
 VersionAbout::VersionAbout(QWidget*) : QDialog(nullptr)
 {
@@ -18,8 +17,8 @@ VersionAbout::VersionAbout(QWidget*) : QDialog(nullptr)
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(20, 20, 20, 20);
     auto* logo = named("logo_Label", new QLabel);
-    const QPixmap picture(QStringLiteral(":/image/Velmora_log.png"));
-    logo->setPixmap(picture.scaled(150, 150, Qt::KeepAspectRatio, Qt::FastTransformation));
+    // An icon knows the picture of twice the pixels too, for screens that can show it.
+    logo->setPixmap(QIcon(QStringLiteral(":/image/Velmora_log.png")).pixmap(150, 150));
     layout->addWidget(logo, 0, 0, 4, 1);
 
     const QString lines[] = {QStringLiteral("ZN64 Clockwright"), QLatin1String(versionText),

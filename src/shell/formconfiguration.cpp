@@ -51,7 +51,7 @@ FormConfiguration::FormConfiguration(QWidget* parent) : QWidget(parent)
 void FormConfiguration::CreateTopLayout()
 {
     m_picTitle_Label = named("m_picTitle_Label", new QLabel(this));
-    m_picTitle_Label->setPixmap(QPixmap(QStringLiteral(":/image/Logo_1.png")));
+    m_picTitle_Label->setPixmap(QIcon(QStringLiteral(":/image/Logo_1.png")).pixmap(308, 60));
     m_picTitle_Label->setFixedHeight(60);
 
     m_Title_GroupBox = named("m_Title_GroupBox", new QGroupBox(this));

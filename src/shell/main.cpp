@@ -8,6 +8,11 @@
 int main(int argc, char* argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    // The names under which desktops look for the entry of a window: the first on X11, where a link to the
+    // program would otherwise change it, the second on Wayland.
+    QCoreApplication::setApplicationName(QStringLiteral("zn64-clockwright"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.clockwright.ZN64Clockwright"));
 
     QTranslator translator;
     const LANGUAGE language = QLocale().language() == QLocale::Chinese ? UI_ZH : UI_EN;

@@ -8,6 +8,7 @@
 int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
     QApplication application(argc, argv);
     const QString folder =
