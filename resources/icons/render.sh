@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # Draws from the .svg sources: each icon at its own size and, as @2x, at twice the pixels; the mark of the logo as the
-# program's own icon, in the sizes that desktops ask for and as the .ico of the windows. Run it after changing a source,
-# and commit all: so the build needs neither a renderer nor the Liberation fonts.
-# Needs rsvg-convert and icotool (Debian: librsvg2-bin, icoutils) and fonts-liberation.
+# program's own icon, in the sizes that desktops ask for. Run it after changing a source, and commit all: so the build
+# needs neither a renderer nor the Liberation fonts. Needs rsvg-convert (Debian: librsvg2-bin) and fonts-liberation.
 set -euo pipefail
 cd "$(dirname "$0")"
 themed=$PWD/../../packaging/icons/hicolor
@@ -23,5 +22,3 @@ for size in 16 22 24 32 48 64 96 128 256 512; do
     mkdir -p "$themed/${size}x$size/apps"
     rsvg-convert --width $size --height $size "$scalable" -o "$themed/${size}x$size/apps/$id.png"
 done
-icotool --create --output ZN64_tool_CRM.ico.ico "$themed"/{16x16,24x24,32x32,48x48,64x64}/apps/$id.png \
-    --raw="$themed/256x256/apps/$id.png"

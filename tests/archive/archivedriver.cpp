@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QIcon>
 #include <QUrl>
 
 #include <cstdio>
@@ -30,9 +29,8 @@ public slots:
 private:
     void drive(const QWidget& form)
     {
-        std::printf("window %s, entry %s, icon %s\n", qPrintable(form.windowTitle()),
-                    qPrintable(QGuiApplication::desktopFileName()),
-                    form.windowIcon().isNull() ? "missing" : "there");
+        std::printf("window %s, entry %s\n", qPrintable(form.windowTitle()),
+                    qPrintable(QGuiApplication::desktopFileName()));
 
         QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "tellManual");
         form.findChild<QAction*>(QStringLiteral("m_OpenManual_Action"))->trigger();

@@ -68,7 +68,7 @@ objdump -p "$top/bin/zn64-clockwright" | awk '/NEEDED/ {print $2}' | grep -v '^l
 
 # drive EXPECTED COMMAND...: starts the program by the command and compares what it showed.
 drive() {
-    same "shown by ${*:2}" "window Velmora Clockwright V$version, entry $id, icon there
+    same "shown by ${*:2}" "window Velmora Clockwright V$version, entry $id
 manual $top/Documents/UM_ZN64_Clockwright_EN.pdf
 $1" "$(as_user LD_PRELOAD="$tmp/driver.so" "${@:2}")"
 }
