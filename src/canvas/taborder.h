@@ -4,7 +4,6 @@
 #include <QVector>
 #include <QWidget>
 
-class QAbstractButton;
 class QGraphicsScene;
 
 /// Walks the controls of a scene by the keyboard, in an order of the owner's choice. The toolkit has no such

@@ -148,6 +148,8 @@ QPushButton* MCUSelect_Form::newButton(const char* memberName, const QString& te
 
 void MCUSelect_Form::addRow(int row, QLabel* label, CustomComboBox1* comboBox)
 {
+    // Assistive tools name a box by the label that is its buddy.
+    label->setBuddy(comboBox);
     grid()->addWidget(label, row, 0);
     grid()->addItem(new QSpacerItem(30, 40, QSizePolicy::Fixed, QSizePolicy::Expanding), row, 1);
     grid()->addWidget(comboBox, row, 2, 1, 2);
