@@ -1,12 +1,9 @@
 #include "canvas/CustomQControl.h"
 
 #include "canvas/appearance.h"
+#include "widgets/look.h"
 
-#include <QApplication>
 #include <QMouseEvent>
-#include <QPointer>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QWheelEvent>
 
 #include <utility>
@@ -48,17 +45,6 @@ const ComboSheets& sheets()
     return all;
 }
 
-/// One style object serves all combos: a widget does not own the style that it is given.
-QStyle* windowsStyle()
-{
-    static QPointer<QStyle> style;
-    if (!style) {
-        style = QStyleFactory::create(QStringLiteral("Windows"));
-        style->setParent(qApp);
-    }
-    return style;
-}
-
 } // namespace
 
 CustomListView::CustomListView(QWidget* parent) : QListView(parent) {}
@@ -96,7 +82,7 @@ CustomComboBox1::CustomComboBox1(QWidget* parent)
     setFont(QFont(QStringLiteral("Arial"), 10, 0));
     setView(m_tempListView);
     // The style first: a sheet that is there already would be worked out once more on top of it.
-    setStyle(windowsStyle());
+    setStyle(look::plainStyle());
     setStyleSheet(sheets().normal);
     m_tempListView->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
