@@ -47,7 +47,7 @@ const ComboSheets& sheets()
 
 } // namespace
 
-CustomListView::CustomListView(QWidget* parent) : QListView(parent) {}
+CustomListView::CustomListView(QComboBox* combo) : QListView(combo), m_combo(combo) {}
 
 void CustomListView::focusInEvent(QFocusEvent* event)
 {
@@ -67,6 +67,18 @@ void CustomListView::hideEvent(QHideEvent* event)
     // A list that closes on a scene loses the focus without an event of its own.
     tellFocusLost();
     QListView::hideEvent(event);
+}
+
+QStyleOptionViewItem CustomListView::viewOptions() const
+{
+    // Here and not by a palette and a font of the list, which would be worked out for each of a page's
+    // combos.
+    QStyleOptionViewItem options = QListView::viewOptions();
+    // The sheet makes the chosen entry's ground light and leaves its text to the palette.
+    options.palette.setColor(QPalette::HighlightedText, Qt::black);
+    options.font = m_combo->font();
+    options.fontMetrics = QFontMetrics(options.font);
+    return options;
 }
 
 void CustomListView::tellFocusLost()
