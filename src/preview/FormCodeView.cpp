@@ -100,6 +100,8 @@ void FormCodeView::SetCodeEditorAttribute(QsciLexerCPP* lexer, QsciScintilla* ed
     editor->setFolding(QsciScintilla::BoxedTreeFoldStyle, 2);
     editor->setFoldMarginColors(Qt::lightGray, Qt::lightGray);
     editor->setLexer(lexer);
+    // Grows with the lines that come into view; see loadFile() for what it grows from.
+    editor->setScrollWidthTracking(true);
 }
 
 void FormCodeView::createTabs()
@@ -160,6 +162,9 @@ bool FormCodeView::loadFile(const QString& path, MyQsciScintilla* editor)
     stream.setCodec("UTF-8");
     const int scrolled = editor->verticalScrollBar()->value();
     editor->setText(stream.readAll());
+    // In pixels. Else a bar would stay for the wide lines of an earlier text, or for the 2000 pixels that an
+    // editor starts with.
+    editor->setScrollWidth(1);
     editor->verticalScrollBar()->setValue(scrolled);
     return true;
 }
