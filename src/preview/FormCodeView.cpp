@@ -2,6 +2,7 @@
 
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"
+#include "widgets/look.h"
 #include "widgets/named.h"
 
 #include <QFile>
@@ -19,16 +20,6 @@ namespace {
 QFont codeFont(int pointSize, int weight)
 {
     return QFont(QStringLiteral("Consolas"), pointSize, weight, false);
-}
-
-/// extent is the bar's thickness as a style sheet property.
-QString scrollBarSheet(const QString& extent)
-{
-    return QStringLiteral("QScrollBar{background:rgb(217, 233, 246); ") + extent +
-           QStringLiteral("}QScrollBar::handle{background:rgb(36, 183, 181); border:2px solid transparent; "
-                          "border-radius:5px;}QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
-                          "QScrollBar::sub-line{background:transparent;}"
-                          "QScrollBar::add-line{background:transparent;}");
 }
 
 } // namespace
@@ -67,8 +58,8 @@ void FormCodeView::createEditors()
     m_conf_h_CodeEditor = named("m_conf_h_CodeEditor", new MyQsciScintilla);
     m_clock_h_CodeEditor = named("m_clock_h_CodeEditor", new MyQsciScintilla);
     for (MyQsciScintilla* editor : editors()) {
-        editor->horizontalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("height:12px;")));
-        editor->verticalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("width: 12px;")));
+        editor->horizontalScrollBar()->setStyleSheet(look::scrollBarSheet(QStringLiteral("height:12px;")));
+        editor->verticalScrollBar()->setStyleSheet(look::scrollBarSheet(QStringLiteral("width: 12px;")));
     }
 }
 

@@ -71,3 +71,12 @@ QStyle* look::plainStyle()
     }
     return style;
 }
+
+QString look::scrollBarSheet(const QString& extent)
+{
+    return QStringLiteral("QScrollBar{background:rgb(217, 233, 246); ") + extent +
+           QStringLiteral("}QScrollBar::handle{background:rgb(36, 183, 181); border:2px solid transparent; "
+                          "border-radius:5px;}QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
+                          "QScrollBar::sub-line{background:transparent;}"
+                          "QScrollBar::add-line{background:transparent;}");
+}

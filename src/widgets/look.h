@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QStyle;
 
 /// What makes the program look the same on every desktop.
@@ -13,5 +15,8 @@ void apply();
 /// A style that paints the grounds of buttons and combos in the plain colour of their sheet. One object
 /// serves all widgets and belongs to the application, which must exist.
 QStyle* plainStyle();
+
+/// The sheet of a scroll bar. extent is its thickness as a property, "width: 12px;" of an upright one.
+QString scrollBarSheet(const QString& extent);
 
 } // namespace look
