@@ -5,6 +5,7 @@
 #include "pages/series/seriespages.h"
 #include "preview/FormCodeView.h"
 #include "shell/formconfiguration.h"
+#include "widgets/look.h"
 
 #include <QApplication>
 #include <QDir>
@@ -238,6 +239,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    look::apply();
     QTemporaryDir folder;
     for (const SeriesTraits& traits : seriesList())
         if (hasSeriesPage(traits.series))

@@ -1,12 +1,9 @@
 #include "canvas/CustomQControl.h"
 
 #include "canvas/appearance.h"
+#include "widgets/look.h"
 
-#include <QApplication>
 #include <QMouseEvent>
-#include <QPointer>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QWheelEvent>
 
 #include <utility>
@@ -48,20 +45,9 @@ const ComboSheets& sheets()
     return all;
 }
 
-/// One style object serves all combos: a widget does not own the style that it is given.
-QStyle* windowsStyle()
-{
-    static QPointer<QStyle> style;
-    if (!style) {
-        style = QStyleFactory::create(QStringLiteral("Windows"));
-        style->setParent(qApp);
-    }
-    return style;
-}
-
 } // namespace
 
-CustomListView::CustomListView(QWidget* parent) : QListView(parent) {}
+CustomListView::CustomListView(QComboBox* combo) : QListView(combo), m_combo(combo) {}
 
 void CustomListView::focusInEvent(QFocusEvent* event)
 {
@@ -83,6 +69,18 @@ void CustomListView::hideEvent(QHideEvent* event)
     QListView::hideEvent(event);
 }
 
+QStyleOptionViewItem CustomListView::viewOptions() const
+{
+    // Here and not by a palette and a font of the list, which would be worked out for each of a page's
+    // combos.
+    QStyleOptionViewItem options = QListView::viewOptions();
+    // The sheet makes the chosen entry's ground light and leaves its text to the palette.
+    options.palette.setColor(QPalette::HighlightedText, Qt::black);
+    options.font = m_combo->font();
+    options.fontMetrics = QFontMetrics(options.font);
+    return options;
+}
+
 void CustomListView::tellFocusLost()
 {
     if (std::exchange(m_focused, false))
@@ -96,7 +94,7 @@ CustomComboBox1::CustomComboBox1(QWidget* parent)
     setFont(QFont(QStringLiteral("Arial"), 10, 0));
     setView(m_tempListView);
     // The style first: a sheet that is there already would be worked out once more on top of it.
-    setStyle(windowsStyle());
+    setStyle(look::plainStyle());
     setStyleSheet(sheets().normal);
     m_tempListView->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }

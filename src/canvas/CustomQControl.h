@@ -3,13 +3,13 @@
 #include <QComboBox>
 #include <QListView>
 
-/// The popup list of a combo box; it tells when it takes and loses the keyboard focus.
+/// The popup list of a combo box, in the combo's font; it tells when it takes and loses the keyboard focus.
 class CustomListView : public QListView
 {
     Q_OBJECT
 
 public:
-    explicit CustomListView(QWidget* parent = nullptr);
+    explicit CustomListView(QComboBox* combo);
 
 signals:
     void focusInThis(bool focused);
@@ -18,10 +18,12 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    QStyleOptionViewItem viewOptions() const override;
 
 private:
     void tellFocusLost();
 
+    const QComboBox* m_combo;
     bool m_focused = false;
 };
 

@@ -1,6 +1,7 @@
 #include "canvas/ZN64MCUPLL.h"
 
 #include "canvas/appearance.h"
+#include "widgets/look.h"
 #include "xml/guardedxml.h"
 
 #include <QDomDocument>
@@ -9,18 +10,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-/// extent is "width" for the vertical bar and "height" for the horizontal one.
-QString scrollBarSheet(const QString& extent)
-{
-    return QStringLiteral("QScrollBar{background:rgb(217, 233, 246); %1: 12px;}"
-                          "QScrollBar::handle{background:rgb(36, 183, 181); border:2px solid transparent; "
-                          "border-radius:5px;}"
-                          "QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
-                          "QScrollBar::sub-line{background:transparent;}"
-                          "QScrollBar::add-line{background:transparent;}")
-        .arg(extent);
-}
 
 /// The picture as the screen can show it: with twice the pixels where its own are finer than the desktop's.
 QPixmap pictureFor(qreal pixelRatio, const QString& picture)
@@ -46,8 +35,9 @@ ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* p
     m_GraphicsView->setTabOrder(&m_tabOrder);
     m_GraphicsView->setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     m_GraphicsView->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255); border: none;"));
-    m_GraphicsView->verticalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("width")));
-    m_GraphicsView->horizontalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("height")));
+    m_GraphicsView->verticalScrollBar()->setStyleSheet(look::scrollBarSheet(QStringLiteral("width: 12px;")));
+    m_GraphicsView->horizontalScrollBar()->setStyleSheet(
+        look::scrollBarSheet(QStringLiteral("height: 12px;")));
 
     auto* background = new QGraphicsPixmapItem(pictureFor(devicePixelRatioF(), picture));
     background->setTransformationMode(Qt::SmoothTransformation);

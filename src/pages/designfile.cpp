@@ -1,11 +1,11 @@
 #include "pages/ClockTreePage.h"
 
 #include "codegen/replacefile.h"
+#include "widgets/filedialogs.h"
 #include "widgets/messages.h"
 #include "xml/guardedxml.h"
 
 #include <QDomDocument>
-#include <QFileDialog>
 #include <QScopedValueRollback>
 #include <QXmlStreamWriter>
 
@@ -16,7 +16,7 @@ void ClockTreePage::SaveToFile(const QString& seriesName)
     if (!passesAll(m_description.onSaving) || seriesName.isEmpty())
         return;
     const QString path =
-        QFileDialog::getSaveFileName(this, translated("Save"), QString(), translated("Config file (*.ZNCK)"));
+        filedialogs::fileToSave(this, translated("Save"), translated("Config file (*.ZNCK)"));
     if (path.isNull())
         return;
     if (!writeDesign(path, seriesName)) {

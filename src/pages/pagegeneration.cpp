@@ -3,12 +3,12 @@
 #include "pages/blocks/HighSpeedBlock.h"
 #include "pages/blocks/SystemClockBlock.h"
 #include "pages/description/inputlimits.h"
+#include "widgets/filedialogs.h"
 #include "widgets/messages.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QPushButton>
 #include <QUrl>
 
@@ -49,9 +49,8 @@ bool ClockTreePage::GenerateCode()
     if (!GenerateCodeCheck() || !passesAll(m_description.onGenerating))
         return false;
     const bool byUser = model().Get_GenerateCodeMode() == MODE_USER_BUTTON;
-    const QString folder =
-        byUser ? QFileDialog::getExistingDirectory(this, translated("Select directory"), QString())
-               : QCoreApplication::applicationDirPath() + QLatin1String("/Code_Sample");
+    const QString folder = byUser ? filedialogs::folder(this, translated("Select directory"))
+                                  : QCoreApplication::applicationDirPath() + QLatin1String("/Code_Sample");
     if (folder.isNull())
         return false;
     const QString incPath = folder + QLatin1String("/inc");

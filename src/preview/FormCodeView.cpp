@@ -2,6 +2,7 @@
 
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"
+#include "widgets/look.h"
 #include "widgets/named.h"
 
 #include <QFile>
@@ -19,16 +20,6 @@ namespace {
 QFont codeFont(int pointSize, int weight)
 {
     return QFont(QStringLiteral("Consolas"), pointSize, weight, false);
-}
-
-/// extent is the bar's thickness as a style sheet property.
-QString scrollBarSheet(const QString& extent)
-{
-    return QStringLiteral("QScrollBar{background:rgb(217, 233, 246); ") + extent +
-           QStringLiteral("}QScrollBar::handle{background:rgb(36, 183, 181); border:2px solid transparent; "
-                          "border-radius:5px;}QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
-                          "QScrollBar::sub-line{background:transparent;}"
-                          "QScrollBar::add-line{background:transparent;}");
 }
 
 } // namespace
@@ -67,8 +58,8 @@ void FormCodeView::createEditors()
     m_conf_h_CodeEditor = named("m_conf_h_CodeEditor", new MyQsciScintilla);
     m_clock_h_CodeEditor = named("m_clock_h_CodeEditor", new MyQsciScintilla);
     for (MyQsciScintilla* editor : editors()) {
-        editor->horizontalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("height:12px;")));
-        editor->verticalScrollBar()->setStyleSheet(scrollBarSheet(QStringLiteral("width: 12px;")));
+        editor->horizontalScrollBar()->setStyleSheet(look::scrollBarSheet(QStringLiteral("height:12px;")));
+        editor->verticalScrollBar()->setStyleSheet(look::scrollBarSheet(QStringLiteral("width: 12px;")));
     }
 }
 
@@ -100,6 +91,8 @@ void FormCodeView::SetCodeEditorAttribute(QsciLexerCPP* lexer, QsciScintilla* ed
     editor->setFolding(QsciScintilla::BoxedTreeFoldStyle, 2);
     editor->setFoldMarginColors(Qt::lightGray, Qt::lightGray);
     editor->setLexer(lexer);
+    // Grows with the lines that come into view; see loadFile() for what it grows from.
+    editor->setScrollWidthTracking(true);
 }
 
 void FormCodeView::createTabs()
@@ -160,6 +153,9 @@ bool FormCodeView::loadFile(const QString& path, MyQsciScintilla* editor)
     stream.setCodec("UTF-8");
     const int scrolled = editor->verticalScrollBar()->value();
     editor->setText(stream.readAll());
+    // In pixels. Else a bar would stay for the wide lines of an earlier text, or for the 2000 pixels that an
+    // editor starts with.
+    editor->setScrollWidth(1);
     editor->verticalScrollBar()->setValue(scrolled);
     return true;
 }

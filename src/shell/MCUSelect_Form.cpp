@@ -3,6 +3,7 @@
 #include "canvas/CustomQControl.h"
 #include "widgets/named.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QGridLayout>
 #include <QIcon>
@@ -82,6 +83,9 @@ void MCUSelect_Form::createSearchRow()
     completer->setFilterMode(Qt::MatchContains);
     completer->setCompletionMode(QCompleter::PopupCompletion);
     m_QueryDevice_ComboBox->setCompleter(completer);
+    // Neither has its font from the box: the one for the box's sheet, the other as a window of its own.
+    completer->popup()->setFont(m_QueryDevice_ComboBox->font());
+    m_QueryDevice_ComboBox->lineEdit()->setFont(m_QueryDevice_ComboBox->font());
     m_QueryDevice_ComboBox->setCurrentIndex(-1);
 
     // Only this dialog says what a typed name does: the combo box itself would, on leaving it, take a name in

@@ -3,6 +3,7 @@
 #include "preview/FormCodeView.h"
 #include "shell/ZN64PLLConfig.h"
 #include "shell/version.h"
+#include "widgets/look.h"
 #include "widgets/named.h"
 
 #include <QAction>
@@ -77,9 +78,12 @@ void FormConfiguration::CreateMainFuncLayout()
     m_ClockConfig_PushButton =
         named("m_ClockConfig_PushButton", new QPushButton(tr("Clock Configuration"), this));
     m_ClockConfig_PushButton->setFont(font);
-    m_ClockConfig_PushButton->setStyleSheet(inViewSheet());
     m_CodeView_PushButton = named("m_CodeView_PushButton", new QPushButton(tr("Code View"), this));
     m_CodeView_PushButton->setFont(font);
+    // Other styles shade the ground of a button.
+    m_ClockConfig_PushButton->setStyle(look::plainStyle());
+    m_CodeView_PushButton->setStyle(look::plainStyle());
+    m_ClockConfig_PushButton->setStyleSheet(inViewSheet());
     m_CodeView_PushButton->setStyleSheet(notInViewSheet());
 
     m_Mainfunc_HBoxLayout = named("m_Mainfunc_HBoxLayout", new QHBoxLayout);

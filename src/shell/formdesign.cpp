@@ -4,11 +4,11 @@
 #include "preview/FormCodeView.h"
 #include "shell/MCUSelect_Form.h"
 #include "shell/ZN64PLLConfig.h"
+#include "widgets/filedialogs.h"
 #include "widgets/messages.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 
 namespace {
 
@@ -69,8 +69,7 @@ void FormConfiguration::OpenDesign_Slot()
     if (!mayCloseDesign(QMessageBox::Warning,
                         tr("The current configuration will be closed. Please confirm whether to continue?")))
         return;
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open"), QString(), tr("Config file (*.ZNCK)"));
+    const QString path = filedialogs::fileToOpen(this, tr("Open"), tr("Config file (*.ZNCK)"));
     if (path.isNull())
         return;
     // Empty, not null: after a refused file the name is lost while the old design and the button's text stay,

@@ -1,4 +1,5 @@
 #include "shell/formconfiguration.h"
+#include "widgets/look.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -19,6 +20,7 @@ int main(int argc, char* argv[])
     const bool loaded = translator.load(translationTable(language));
 
     QApplication application(argc, argv);
+    look::apply();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/ZN64_tool_CRM.ico.ico")));
     if (loaded)
         QCoreApplication::installTranslator(&translator);

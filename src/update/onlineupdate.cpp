@@ -2,13 +2,13 @@
 
 #include "update/boxtext.h"
 #include "update/httpsdownload.h"
+#include "widgets/filedialogs.h"
 #include "widgets/messages.h"
 #include "xml/guardedxml.h"
 
 #include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QPushButton>
 #include <QRegExp>
 #include <QScopedValueRollback>
@@ -48,8 +48,7 @@ void OnlineUpdate::OnlineDownload()
     Offer offer;
     if (!fetchOffer(download, offer) || !isWanted(offer))
         return;
-    const QString folder = QFileDialog::getExistingDirectory(m_parent, tr("Select directory"), QString(),
-                                                             QFileDialog::ShowDirsOnly);
+    const QString folder = filedialogs::folder(m_parent, tr("Select directory"));
     if (folder.isNull())
         return;
     QString target = folder;

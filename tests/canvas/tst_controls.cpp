@@ -65,6 +65,25 @@ private slots:
         QCOMPARE(m_combo->currentText(), "PA9"_s);
     }
 
+    void openListIsDarkOnLightInTheCombosFont()
+    {
+        m_combo->setFont(QFont("Arial"_s, 24));
+        click(middleOf(m_combo));
+        const QAbstractItemView* list = m_combo->view();
+        QTRY_VERIFY(list->isVisible());
+        const QRect chosen = list->visualRect(m_combo->model()->index(0, 0));
+        QVERIFY(chosen.height() >= QFontMetrics(m_combo->font()).height());
+        const QImage seen = list->viewport()->grab(chosen & list->viewport()->rect()).toImage();
+        int darkest = 255;
+        int lightest = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x) {
+                darkest = std::min(darkest, qGray(seen.pixel(x, y)));
+                lightest = std::max(lightest, qGray(seen.pixel(x, y)));
+            }
+        QVERIFY(darkest < 50 && lightest < 220);
+    }
+
     void editTakesCaretAndText_data() { zooms(false); }
     void editTakesCaretAndText()
     {

@@ -187,14 +187,19 @@ void TestEdits::pllParameters_data()
         "G150 | pllms_lineEdit=0 | ms:Ok | pllms_lineEdit?: /0 red pale; PLL_MS: 1",
         "G150 | pllms_lineEdit=16 | ms:Ok | pllms_lineEdit?: /16 red pale; PLL_MS: 1",
         "G150 | pllms_lineEdit=/2 | | pllms_lineEdit?: /2 black white; PLL_MS: 2; sclk_lineEdit: 144.000",
-        "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Yes | pllms_lineEdit: /4; pllns_lineEdit: *250; PLL_MS: 4; "
-        "PLL_NS: 250; sclk_lineEdit: 125.000",
+        "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Yes | pllms_lineEdit?: /4 black white; pllns_lineEdit?: *250 "
+        "black "
+        "white; PLL_MS: 4; PLL_NS: 250; sclk_lineEdit: 125.000",
         "G150 | pllms_lineEdit=5 | ms?:Cancel | pllms_lineEdit?: /5 black pale; PLL_MS: 1; sclk_lineEdit: "
         "288.000",
         "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Cancel | pllms_lineEdit: /4; PLL_MS: 4; PLL_NS: 144; "
         "sclk_lineEdit: 288.000",
-        "G150 | hext_lineEdit=25 | ms?:Yes ns?:Yes | pllms_lineEdit: /2; pllns_lineEdit: *96; sclk_lineEdit: "
-        "300.000",
+        "G150 | hext_lineEdit=25 | ms?:Yes ns?:Yes | pllms_lineEdit?: /2 black white; pllns_lineEdit?: *96 "
+        "black "
+        "white; sclk_lineEdit: 300.000",
+        // What another field commits or finds shows as committed too.
+        "G150 | pllns_lineEdit~72 pllms_lineEdit=1 | | pllns_lineEdit?: *72 black white",
+        "G150 | pllns_lineEdit~120 sclk_lineEdit=240 | | pllns_lineEdit?: *120 black white",
         "G150 | pllns_lineEdit~72 | | pllns_lineEdit?: *72 black pale; PLL_NS: 144",
         "G150 | pllns_lineEdit=30 | ns:Ok | pllns_lineEdit?: *30 red pale; PLL_NS: 144",
         "G150 | pllns_lineEdit=*501 | ns:Ok | pllns_lineEdit?: *501 red pale; PLL_NS: 144",

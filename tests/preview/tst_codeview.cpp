@@ -82,6 +82,17 @@ private slots:
         QCOMPARE(editor(0)->firstVisibleLine(), 77);
     }
 
+    void horizontalBarComesAndGoesWithWideLines()
+    {
+        const QByteArray wide = "int " + QByteArray(300, 'x') + ";\n";
+        for (int round = 0; round < 2; ++round) {
+            load("zn64g110"_s);
+            QTRY_VERIFY(!editor(0)->horizontalScrollBar()->isVisible());
+            load("zn64g110"_s, wide);
+            QTRY_VERIFY(editor(0)->horizontalScrollBar()->isVisible());
+        }
+    }
+
     void clickedTabIsHighlightedAndStaysSoAfterAReload()
     {
         QTest::mouseClick(label(2), Qt::LeftButton);

@@ -3,9 +3,11 @@
 
 #include "preview/MyQsciScintilla.h"
 #include "update/onlineupdate.h"
+#include "widgets/look.h"
 
 #include <QDir>
 #include <QPointer>
+#include <QSizeGrip>
 
 namespace {
 
@@ -38,6 +40,8 @@ class TestForm : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { look::apply(); }
+
     void init()
     {
         m_program.reset();
@@ -188,6 +192,23 @@ private slots:
                                  "Please confirm whether to continue? | Cancel, Yes"_s});
             QCOMPARE(divider->currentIndex(), *button == 'C' ? 3 : 0);
         }
+    }
+
+    void dialogsHaveOneLook()
+    {
+        QStringList looks;
+        const DialogAnswers::Answer see = [&](QDialog* dialog) {
+            looks += dialog->grab(QRect(2, 2, 1, 1)).toImage().pixelColor(0, 0).name();
+            // Would lie over a corner of a button.
+            for (const QSizeGrip* each : dialog->findChildren<QSizeGrip*>())
+                looks += each->isVisible() ? "grip"_s : QString();
+            dialog->reject();
+        };
+        DialogAnswers answers{see, see, see};
+        for (const QString& command : {newCommand, openCommand, "m_Save_Action"_s})
+            m_program->run(command);
+        looks.removeAll(QString());
+        QCOMPARE(looks, QStringList({"#ffffff"_s, "#ffffff"_s, "#ffffff"_s}));
     }
 
     void commandsAreIgnoredWhileADialogIsOpen()

@@ -46,6 +46,9 @@ private slots:
         QAbstractItemView* popup = search()->completer()->popup();
         QTRY_VERIFY(popup->isVisible());
         QCOMPARE(popup->model()->rowCount(), 1);
+        for (const QWidget* each : {static_cast<QWidget*>(search()), static_cast<QWidget*>(popup)})
+            QVERIFY(each->font().family() == "Arial"_s && each->font().bold() &&
+                    each->font().pointSize() == 10);
         QTest::keyClick(popup, Qt::Key_Down);
         QTest::keyClick(popup, Qt::Key_Return);
 

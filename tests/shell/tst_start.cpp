@@ -7,12 +7,15 @@
 #include <QMenuBar>
 #include <QTimer>
 
+#include <utility>
+
 /// The program's own main(), under another name.
 int clockwrightMain(int argc, char* argv[]);
 
 namespace {
 
 QString menus;
+QStringList faintColors;
 
 /// "Menu: entry, entry | Menu: entry", with a star at the entries that carry a mark.
 QString describe(const QMenuBar* bar)
@@ -27,12 +30,42 @@ QString describe(const QMenuBar* bar)
     return lines.join(" | "_s);
 }
 
+/// What the palette shows faintly, or on a dark ground.
+QStringList faintColorsOf(const QPalette& palette)
+{
+    using P = QPalette;
+    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {
+        {P::WindowText,      P::Window     },
+        {P::Text,            P::Base       },
+        {P::ButtonText,      P::Button     },
+        {P::Link,            P::Base       },
+        {P::PlaceholderText, P::Base       },
+        {P::ToolTipText,     P::ToolTipBase},
+        {P::HighlightedText, P::Highlight  }
+    };
+    QStringList faint;
+    for (P::ColorGroup group : {P::Active, P::Inactive, P::Disabled})
+        for (const auto& [text, ground] : pairs) {
+            const int light = qGray(palette.color(group, ground).rgb());
+            if (qAbs(light - qGray(palette.color(group, text).rgb())) < 100 ||
+                (light < 200 && ground != P::Highlight))
+                faint += "group %1, role %2"_s.arg(group).arg(text);
+        }
+    return faint;
+}
+
 void lookAndLeave()
 {
+    // The desktop is dark, and has colours of its own for menus.
+    QApplication::setPalette(QColor(40, 40, 40));
+    QApplication::setPalette(QColor(40, 40, 40), "QMenu");
     QTimer::singleShot(0, QCoreApplication::instance(), [] {
         for (const QWidget* each : QApplication::topLevelWidgets())
-            if (qobject_cast<const FormConfiguration*>(each) && each->isVisible())
+            if (qobject_cast<const FormConfiguration*>(each) && each->isVisible()) {
                 menus = describe(each->findChild<QMenuBar*>());
+                faintColors =
+                    faintColorsOf(QApplication::palette()) + faintColorsOf(QApplication::palette("QMenu"));
+            }
         QCoreApplication::quit();
     });
 }
@@ -65,6 +98,7 @@ void TestStart::languageAndMenus()
     char name[] = "clockwright";
     char* arguments[] = {name, nullptr};
     QCOMPARE(clockwrightMain(1, arguments), 0);
+    QCOMPARE(faintColors, QStringList());
     QCOMPARE(
         menus,
         chinese

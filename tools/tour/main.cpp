@@ -1,6 +1,8 @@
 #include "steps.h"
 #include "tour.h"
 
+#include "widgets/look.h"
+
 #include <QApplication>
 
 #include <cstdio>
@@ -11,6 +13,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
     QApplication application(argc, argv);
+    look::apply();
     const QString folder =
         QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/../tour"));
     Tour tour(folder);

@@ -6,6 +6,7 @@
 
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
+#include "widgets/look.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -125,6 +126,7 @@ int main(int argc, char* argv[])
     // The offscreen platform warns of every control on the scene.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     QApplication application(argc, argv);
+    look::apply();
     QCommandLineParser arguments;
     arguments.setApplicationDescription(QStringLiteral("Paints the picture of a series' clock tree."));
     arguments.addHelpOption();

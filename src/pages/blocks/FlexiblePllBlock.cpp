@@ -149,8 +149,11 @@ void FlexiblePllBlock::UpdateResultControls()
 
 void FlexiblePllBlock::Update_Flexible_Controls()
 {
-    m_ms.write(model().Get_PLL_MS());
-    m_ns.write(model().Get_PLL_NS());
+    for (const Parameter* each : {&m_ms, &m_ns}) {
+        each->write(static_cast<int>(each->field.get(model())));
+        // The text may be the same as the one typed, and then tells nobody.
+        paintTyped(*each);
+    }
 }
 
 bool FlexiblePllBlock::takeTypedParameters()
@@ -173,9 +176,8 @@ bool FlexiblePllBlock::takeMs(int& ms)
                                   "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz"))
             return false;
         ms = corrected;
-        m_ms.write(ms);
     }
-    model().Set_PLL_MS(ms);
+    takeOver(m_ms, ms);
     return true;
 }
 
@@ -198,10 +200,18 @@ bool FlexiblePllBlock::takeNs(int ms)
                                          "1000MHz"))
             return false;
         ns = corrected;
-        m_ns.write(ns);
     }
-    model().Set_PLL_NS(ns);
+    takeOver(m_ns, ns);
     return true;
+}
+
+void FlexiblePllBlock::takeOver(const Parameter& parameter, int value)
+{
+    // The model first: what the field shows is compared with it.
+    parameter.field.set(model(), value);
+    if (parameter.typed() != value)
+        parameter.write(value);
+    paintTyped(parameter);
 }
 
 void FlexiblePllBlock::commit(const Parameter& parameter)

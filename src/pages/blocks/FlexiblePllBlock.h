@@ -55,6 +55,8 @@ private:
     void Set_pllCFG_Hidden(bool hidden);
     void commit(const Parameter& parameter);
     void paintTyped(const Parameter& parameter);
+    /// Puts a good value into the model, and the field shows it as committed.
+    void takeOver(const Parameter& parameter, int value);
     bool takeMs(int& ms);
     bool takeNs(int ms);
 

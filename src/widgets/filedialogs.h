@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// The ways to ask for a file or a folder, by a modal dialog with the title. The result is null when the user
+/// cancels, or when the parent died while the dialog was open.
+namespace filedialogs {
+
+/// filter is as QFileDialog takes it, "Config file (*.ZNCK)".
+QString fileToOpen(QWidget* parent, const QString& title, const QString& filter);
+/// The user may name a file that does not exist; no suffix is added.
+QString fileToSave(QWidget* parent, const QString& title, const QString& filter);
+/// An existing folder; the dialog shows folders only.
+QString folder(QWidget* parent, const QString& title);
+
+} // namespace filedialogs

@@ -1,0 +1,82 @@
+#include "widgets/look.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QPalette>
+#include <QPointer>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace {
+
+struct RoleColors
+{
+    QPalette::ColorRole role;
+    QRgb enabled;
+    QRgb disabled;
+};
+
+/// Every role, so that nothing is left to the desktop.
+constexpr RoleColors lightColors[] = {
+    {QPalette::Window,          0xffffffff, 0xffffffff},
+    {QPalette::WindowText,      0xff000000, 0xff787878},
+    {QPalette::Base,            0xffffffff, 0xffffffff},
+    {QPalette::AlternateBase,   0xfff5f5f5, 0xfff5f5f5},
+    {QPalette::Text,            0xff000000, 0xff787878},
+    {QPalette::PlaceholderText, 0xff787878, 0xff787878},
+    {QPalette::Button,          0xffffffff, 0xffffffff},
+    {QPalette::ButtonText,      0xff000000, 0xff787878},
+    {QPalette::BrightText,      0xffffffff, 0xffffffff},
+    {QPalette::Light,           0xffffffff, 0xffffffff},
+    {QPalette::Midlight,        0xffcacaca, 0xffcacaca},
+    {QPalette::Mid,             0xffb8b8b8, 0xffb8b8b8},
+    {QPalette::Dark,            0xff9f9f9f, 0xffbebebe},
+    {QPalette::Shadow,          0xff767676, 0xffb1b1b1},
+    {QPalette::Highlight,       0xff2b7fb4, 0xff6e6e6e},
+    {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
+    {QPalette::Link,            0xff0000ff, 0xff787878},
+    {QPalette::LinkVisited,     0xff800080, 0xff787878},
+    {QPalette::ToolTipBase,     0xffffffdc, 0xffffffdc},
+    {QPalette::ToolTipText,     0xff000000, 0xff000000},
+};
+
+QPalette lightPalette()
+{
+    QPalette palette;
+    for (const RoleColors& each : lightColors) {
+        palette.setColor(QPalette::Active, each.role, each.enabled);
+        palette.setColor(QPalette::Inactive, each.role, each.enabled);
+        palette.setColor(QPalette::Disabled, each.role, each.disabled);
+    }
+    return palette;
+}
+
+} // namespace
+
+void look::apply()
+{
+    // Some desktops' styles paint their own dark grounds whatever the palette says. The controls stand on the
+    // pictures of the trees with this style's sizes, too.
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(lightPalette());
+}
+
+QStyle* look::plainStyle()
+{
+    // A widget does not own the style that it is given.
+    static QPointer<QStyle> style;
+    if (!style) {
+        style = QStyleFactory::create(QStringLiteral("Windows"));
+        style->setParent(qApp);
+    }
+    return style;
+}
+
+QString look::scrollBarSheet(const QString& extent)
+{
+    return QStringLiteral("QScrollBar{background:rgb(217, 233, 246); ") + extent +
+           QStringLiteral("}QScrollBar::handle{background:rgb(36, 183, 181); border:2px solid transparent; "
+                          "border-radius:5px;}QScrollBar::handle:hover{background:rgb(36, 183, 181);}"
+                          "QScrollBar::sub-line{background:transparent;}"
+                          "QScrollBar::add-line{background:transparent;}");
+}
