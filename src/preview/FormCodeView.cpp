@@ -138,8 +138,11 @@ void FormCodeView::LoadCode(const QString& series, const QString& directory)
         const QString& name = names[index];
         const QString folder =
             name.endsWith(QLatin1String(".c")) ? QStringLiteral("/src/") : QStringLiteral("/inc/");
-        if (loadFile(directory + folder + name, tabs[index]))
-            m_tabLable_List[label++]->setText(name);
+        if (!loadFile(directory + folder + name, tabs[index]))
+            continue;
+        tabs[index]->setAccessibleName(name);
+        m_CodeViewTabWidget->tabBar()->setAccessibleTabName(label, name);
+        m_tabLable_List[label++]->setText(name);
     }
     TabWidgetTabBarClicked(m_TabWidgetIndex);
 }

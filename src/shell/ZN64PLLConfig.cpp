@@ -59,8 +59,11 @@ void ZN64PLLConfig::createToolBar()
     m_ToolBar->addWidget(new QLabel(this));
     m_ToolBar->addAction(m_ConfigReset_Action);
     // A tool bar leaves its buttons out of the keyboard's way round the window.
-    for (QToolButton* button : m_ToolBar->findChildren<QToolButton*>())
+    for (QToolButton* button : m_ToolBar->findChildren<QToolButton*>()) {
         button->setFocusPolicy(Qt::TabFocus);
+        button->setStyleSheet(
+            QStringLiteral("QToolButton:focus{border: 2px solid rgb(0, 32, 82); border-radius: 2px;}"));
+    }
 
     auto* row = new QHBoxLayout;
     row->addItem(new QSpacerItem(50, 40, QSizePolicy::Expanding, QSizePolicy::Fixed));
