@@ -5,12 +5,13 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # Arial is drawn with the Liberation fonts, the desktop's own texts with DejaVu, Chinese with Micro Hei. Xvfb stands in
-# for a display, and openbox for the window manager on it.
+# for a display, and openbox for the window manager on it. weasyprint makes the manuals, poppler's tools check them.
 PACKAGES=(
     cmake ninja-build ccache g++ clang-format
     qtbase5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev
     fonts-liberation fonts-dejavu-core fonts-wqy-microhei
     xvfb xauth x11-utils openbox openssl
+    weasyprint python3-markdown python3-jinja2 poppler-utils
 )
 
 say() { printf '== %s\n' "$*"; }

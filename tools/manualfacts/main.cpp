@@ -1,0 +1,90 @@
+#include "seriesfacts.h"
+
+#include "model/seriestraits.h"
+#include "pages/series/seriespages.h"
+#include "shell/MCUSelect_Form.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLoggingCategory>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+
+/// Room for the view's own margins, pixels.
+constexpr int margin = 4;
+
+/// The product line under which the dialog offers each series; the series that it does not offer are missing.
+QHash<QString, QString> linesOfDialog()
+{
+    QHash<QString, QString> lines;
+    MCUSelect_Form dialog(nullptr);
+    auto* line = dialog.findChild<QComboBox*>(QStringLiteral("m_ProductLine_ComboBox"));
+    const auto* series = dialog.findChild<QComboBox*>(QStringLiteral("m_MCUSerial_ComboBox"));
+    for (int i = 0; i < line->count(); ++i) {
+        line->setCurrentIndex(i);
+        for (int k = 0; k < series->count(); ++k)
+            lines.insert(series->itemText(k), line->currentText());
+    }
+    return lines;
+}
+
+/// The page in its start state, as large as its picture, in twice the pixels if the platform has such.
+bool savePicture(ClockTreePage& page, const QString& path)
+{
+    page.window()->resize(page.description().pictureSize + QSize(margin, margin));
+    page.resize(page.window()->size());
+    QCoreApplication::processEvents();
+    // Without an alpha channel, which a PDF would hold as a second image.
+    return page.grab().toImage().convertToFormat(QImage::Format_RGB32).save(path);
+}
+
+bool writeJson(const QJsonArray& all, const QString& path)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(all).toJson()) > 0 && file.commit();
+}
+
+bool writeFacts(const QDir& folder)
+{
+    const QHash<QString, QString> lines = linesOfDialog();
+    QJsonArray all;
+    for (const SeriesTraits& traits : seriesList()) {
+        // The program's windows lend this sheet to their pages.
+        QWidget window;
+        window.setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
+        ClockTreePage* page = createSeriesPage(traits.series, &window);
+        window.show();
+        QJsonObject facts = factsOf(*page);
+        facts.insert(QStringLiteral("line"), lines.value(traits.name()));
+        all.append(facts);
+        if (!savePicture(*page, folder.filePath(QLatin1String(traits.word) + QLatin1String(".png"))))
+            return false;
+    }
+    return writeJson(all, folder.filePath(QStringLiteral("series.json")));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The offscreen platform warns of every control on the scene.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 2) {
+        std::fputs("usage: manualfacts FOLDER\n", stderr);
+        return 1;
+    }
+    const QDir folder(arguments[1]);
+    if (folder.mkpath(QStringLiteral(".")) && writeFacts(folder))
+        return 0;
+    std::fprintf(stderr, "%s cannot be written\n", qPrintable(folder.path()));
+    return 1;
+}
