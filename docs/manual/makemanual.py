@@ -5,6 +5,7 @@ import argparse
 import html
 import json
 import logging
+import os
 import pathlib
 import re
 import sys
@@ -66,15 +67,17 @@ class Page:
             width, title = min(mm or image.width / PIXELS_PER_MM, 170), image.text.get("Title", "")
         bar = f'<div class="bar">{html.escape(title)}</div>' if title else ""
         place = f' class="beside" style="width: {width:.0f}mm"' if beside else ""
-        return Markup(f'<figure{place}><div style="width: {width:.0f}mm">{bar}<img src="{path.as_uri()}" alt="{caption}"></div>'
-                      f"<figcaption>{caption}</figcaption></figure>")
+        image = f'<div style="width: {width:.0f}mm">{bar}<img src="{path.as_uri()}" alt="{caption}"></div>'
+        return Markup(f"<figure{place}>{image}<figcaption>{caption}</figcaption></figure>")
 
-    def code(self, name, first="", last=None):
-        """A generated file, or its lines from the first that holds one text to the next that holds another."""
+    def code(self, lead, name, first="", last=None):
+        """A generated file, or its lines from the first that holds one text to the next that holds another, on the
+        page of the words that lead to it."""
         lines = (self.pictures / name).read_text().replace("\r", "").rstrip().split("\n")
         start = next(i for i, line in enumerate(lines) if first in line)
         end = next(i for i in range(start, len(lines)) if last in lines[i]) if last is not None else len(lines) - 1
-        return Markup("<pre>" + html.escape("\n".join(lines[start:end + 1])) + "</pre>")
+        text = html.escape("\n".join(lines[start:end + 1]))
+        return Markup(f'<div class="listing">{markdown.markdown(lead)}<pre>{text}</pre></div>')
 
 
 def joined_lines(text):
@@ -114,7 +117,9 @@ def limits_table(series):
         cell("painted", {"clock": "usb", "bound": "exactly", "compared": 48, "shown": None})
     for column in ("painted", "saving", "generating"):
         for limit in series[column]:
-            cell(column, limit)
+            # Without a switch the page knows no clock of the ADC, and never judges one.
+            if limit["clock"] != "adc" or series["adcSwitch"]:
+                cell(column, limit)
     if series["generatedApb3"]:
         cell("generating", {"clock": "apb3", "bound": "above", "compared": series["generatedApb3"], "shown": None})
         rows["apb3"]["generating"]["asks"] = False
@@ -140,8 +145,8 @@ def build_html(language, version, texts, pictures, facts_folder):
     converter = markdown.Markdown(extensions=["extra", "toc"], extension_configs={"toc": {"toc_depth": "1-2"}})
     text = "\n\n".join(chapters)
     body = converter.convert(joined_lines(text) if language == "zh" else text)
-    return env.get_template("page.html").render(
-        lang=page.words["lang"], body=body, contents=converter.toc_tokens, pages=env.get_template("series.html").render())
+    return env.get_template("page.html").render(lang=page.words["lang"], body=body, contents=converter.toc_tokens,
+                                                pages=env.get_template("series.html").render())
 
 
 def main():
@@ -159,6 +164,7 @@ def main():
     handler.emit = lambda record: complaints.append(record.getMessage())
     logging.getLogger("weasyprint").handlers = [handler]
 
+    os.environ["SOURCE_DATE_EPOCH"] = "0"  # otherwise the fonts hold the time of the build
     texts = Texts(args.texts, args.language)
     page = build_html(args.language, args.version, texts, args.pictures.resolve(), args.facts.resolve())
     complaints += [f"the manual says nothing of the text {text!r}" for text in texts.missing(load("leftout.json"))]

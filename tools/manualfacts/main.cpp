@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLoggingCategory>
@@ -15,9 +16,6 @@
 #include <cstdio>
 
 namespace {
-
-/// Room for the view's own margins, pixels.
-constexpr int margin = 4;
 
 /// The product line under which the dialog offers each series; the series that it does not offer are missing.
 QHash<QString, QString> linesOfDialog()
@@ -37,11 +35,16 @@ QHash<QString, QString> linesOfDialog()
 /// The page in its start state, as large as its picture, in twice the pixels if the platform has such.
 bool savePicture(ClockTreePage& page, const QString& path)
 {
-    page.window()->resize(page.description().pictureSize + QSize(margin, margin));
-    page.resize(page.window()->size());
+    const QSize size = page.description().pictureSize;
+    QGraphicsView* view = page.view();
+    view->setSceneRect(QRectF(QPointF(), size));
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    page.window()->resize(size);
+    page.resize(size);
     QCoreApplication::processEvents();
     // Without an alpha channel, which a PDF would hold as a second image.
-    return page.grab().toImage().convertToFormat(QImage::Format_RGB32).save(path);
+    return view->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32).save(path);
 }
 
 bool writeJson(const QJsonArray& all, const QString& path)

@@ -164,6 +164,7 @@ void flexiblePll(Tour& tour)
 void manualPictures(Tour& tour, LANGUAGE language)
 {
     tour.form().resize(formSize);
+    QApplication::setCursorFlashTime(0);
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // of the boxes, as on many desktops
     if (language == UI_ZH)
         tour.clickMenu("m_LanguageMenu", "m_Chinese_Action");
