@@ -44,6 +44,7 @@ class Page:
         self.words = {key: each[language] for key, each in load("words.json").items()}
         self.text = texts
         self.pictures = pictures
+        self.unseen = {path.stem for path in pictures.glob("*.png")}
 
     def ui(self, *sources):
         """A text of the interface; several are the way through a menu."""
@@ -63,6 +64,7 @@ class Page:
         """A picture of the program; dialogs get the title bar that the desktop would give them. The text can run
         beside it."""
         path = self.pictures / f"{name}.png"
+        self.unseen.discard(name)
         with Image.open(path) as image:
             width, title = min(mm or image.width / PIXELS_PER_MM, 170), image.text.get("Title", "")
         bar = f'<div class="bar">{html.escape(title)}</div>' if title else ""
@@ -128,15 +130,14 @@ def limits_table(series):
     return sorted(rows.items(), key=lambda row: order.index(row[0]))
 
 
-def build_html(language, version, texts, pictures, facts_folder):
-    page = Page(language, texts, pictures)
+def build_html(page, language, version, facts_folder):
     env = jinja2.Environment(loader=jinja2.FileSystemLoader(HERE), undefined=jinja2.StrictUndefined,
                              trim_blocks=True, lstrip_blocks=True,
                              comment_start_string="<#", comment_end_string="#>")  # headings have {#names}
     env.filters["spans"] = spans
     facts = json.loads((facts_folder / "series.json").read_text())
     env.globals.update(
-        ui=page.ui, text=texts, box=page.box, picture=page.picture, code=page.code, w=page.words.__getitem__,
+        ui=page.ui, text=page.text, box=page.box, picture=page.picture, code=page.code, w=page.words.__getitem__,
         version=version, series=facts, limits_table=limits_table,
         names=lambda some: page.words["comma"].join(one["name"] for one in some),
         tree=lambda one: (facts_folder / f"{one['word']}.png").as_uri())
@@ -165,10 +166,11 @@ def main():
     logging.getLogger("weasyprint").handlers = [handler]
 
     os.environ["SOURCE_DATE_EPOCH"] = "0"  # otherwise the fonts hold the time of the build
-    texts = Texts(args.texts, args.language)
-    page = build_html(args.language, args.version, texts, args.pictures.resolve(), args.facts.resolve())
-    complaints += [f"the manual says nothing of the text {text!r}" for text in texts.missing(load("leftout.json"))]
-    weasyprint.HTML(string=page, base_url=HERE.as_uri() + "/").write_pdf(args.output)
+    page = Page(args.language, Texts(args.texts, args.language), args.pictures.resolve())
+    text = build_html(page, args.language, args.version, args.facts.resolve())
+    complaints += [f"the manual says nothing of the text {each!r}" for each in page.text.missing(load("leftout.json"))]
+    complaints += [f"the manual does not show the picture {each}" for each in sorted(page.unseen)]
+    weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/").write_pdf(args.output)
     for complaint in complaints:
         print(f"manual ({args.language}): {complaint}", file=sys.stderr)
     if complaints:

@@ -169,7 +169,6 @@ void manualPictures(Tour& tour, LANGUAGE language)
     if (language == UI_ZH)
         tour.clickMenu("m_LanguageMenu", "m_Chinese_Action");
     tour.step("first design: New");
-    keepForm(tour, "window");
     tour.withDialogs({pickSeries(tour, "zn64g120", "new")},
                      [&] { tour.clickMenu("m_FileMenu", "m_New_Action"); });
     keepForm(tour, "start");
