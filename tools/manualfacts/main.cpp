@@ -43,8 +43,14 @@ bool savePicture(ClockTreePage& page, const QString& path)
     page.window()->resize(size);
     page.resize(size);
     QCoreApplication::processEvents();
-    // Without an alpha channel, which a PDF would hold as a second image.
-    return view->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32).save(path);
+    // Without an alpha channel, which a PDF would hold as a second image, and packed in haste: the maker of
+    // the PDF packs it again.
+    constexpr int hastyPng = 90;
+    return view->viewport()
+        ->grab()
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32)
+        .save(path, "PNG", hastyPng);
 }
 
 bool writeJson(const QJsonArray& all, const QString& path)
