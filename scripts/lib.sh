@@ -5,13 +5,15 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # Arial is drawn with the Liberation fonts, the desktop's own texts with DejaVu, Chinese with Micro Hei. Xvfb stands in
-# for a display, and openbox for the window manager on it. The archive's test reads its entries as desktops do.
+# for a display, and openbox for the window manager on it. The archive's test reads its entries as desktops do;
+# weasyprint makes the manuals, and poppler's tools check them.
 PACKAGES=(
     cmake ninja-build ccache g++ clang-format
     qtbase5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev
     fonts-liberation fonts-dejavu-core fonts-wqy-microhei
     xvfb xauth x11-utils openbox openssl
     desktop-file-utils appstream libglib2.0-bin
+    weasyprint python3-markdown python3-jinja2 poppler-utils
 )
 
 say() { printf '== %s\n' "$*"; }

@@ -9,7 +9,6 @@ namespace {
 // MHz, both ends good.
 constexpr double dividedInputMin = 2.0;
 constexpr double dividedInputMax = 16.0;
-constexpr double vcoMin = 500.0;
 // 48 MHz times the largest divisor from the VCO to USB.
 constexpr double vcoTopForUsb = 960.0;
 
@@ -72,13 +71,13 @@ bool ZN64ConfigCLK::PLL_NS_Valid_Check(int ns, int ms, int& corrected) const
     const double top = m_traits->vcoTop();
     const double value = vco(ns, in, ms);
     corrected = divisors::pllNsMin;
-    if (value >= vcoMin && value <= top)
+    if (value >= vcoMinMHz && value <= top)
         return true;
 
-    if (value < vcoMin) {
+    if (value < vcoMinMHz) {
         // No value below zero can be the first good one above a bad one.
         for (int v = std::max(ns, 0); v <= divisors::pllNsMax; ++v) {
-            if (vco(v, in, ms) >= vcoMin) {
+            if (vco(v, in, ms) >= vcoMinMHz) {
                 corrected = v;
                 break;
             }
@@ -118,7 +117,7 @@ void ZN64ConfigCLK::Get_PLL_NS_ValidRange(double pllInput, double ms, int& upper
     // The VCO never falls while NS grows, also after rounding, so that the good values are one run and
     // halving finds its ends. A VCO that falls or is not a number has no good value at all.
     const auto first = endOfHolding(divisors::pllNsMin, divisors::pllNsMax,
-                                    [=](long long ns) { return !(vco(ns, pllInput, ms) >= vcoMin); });
+                                    [=](long long ns) { return !(vco(ns, pllInput, ms) >= vcoMinMHz); });
     const auto end = endOfHolding(divisors::pllNsMin, divisors::pllNsMax,
                                   [=](long long ns) { return vco(ns, pllInput, ms) <= top; });
     upper = divisors::pllNsMax;

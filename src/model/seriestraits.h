@@ -8,6 +8,8 @@
 
 /// The only clock that USB works at, MHz.
 constexpr double usbClockMHz = 48.0;
+/// The lowest VCO frequency, MHz.
+constexpr double vcoMinMHz = 500.0;
 
 /// Where the USB clock can come from, as the usage analysis sees it.
 enum class UsbSource

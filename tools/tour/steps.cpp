@@ -79,7 +79,8 @@ void showPreview(Tour& tour, const QString& line, const char* picture)
     tour.clickButton("m_ClockConfig_PushButton");
 }
 
-/// Types into the search box and picks the one device that it proposes.
+} // namespace
+
 void pickInSearch(Tour& tour, QDialog* dialog, const QString& text)
 {
     QLineEdit* search = dialog->findChild<QComboBox*>(QStringLiteral("m_QueryDevice_ComboBox"))->lineEdit();
@@ -91,8 +92,6 @@ void pickInSearch(Tour& tour, QDialog* dialog, const QString& text)
     const QModelIndex first = proposals->model()->index(0, 0);
     QTest::mouseClick(proposals->viewport(), Qt::LeftButton, {}, proposals->visualRect(first).center());
 }
-
-} // namespace
 
 void withoutDesign(Tour& tour)
 {

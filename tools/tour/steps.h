@@ -1,5 +1,7 @@
 #pragma once
 
+class QDialog;
+class QString;
 class Tour;
 
 /// What a person meets who has no design yet.
@@ -14,3 +16,6 @@ void everySeries(Tour& tour);
 void inChinese(Tour& tour);
 /// The question on closing the window.
 void closing(Tour& tour);
+
+/// In the dialog of New: types into the search box and picks the first device that it proposes.
+void pickInSearch(Tour& tour, QDialog* dialog, const QString& text);

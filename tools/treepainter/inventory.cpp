@@ -104,13 +104,9 @@ QString describe(const Limit& limit, const char* list)
         limit.question
             ? QLatin1String("asks ") + quoted(QLatin1String(limit.question))
             : QStringLiteral("%1 %2MHz").arg(QLatin1String(limits::refusal(limit))).arg(limit.shown);
-    const char* const clocks[] = {"none",       "untold", "outside", "lick", "lext",       "hick",
-                                  "hext",       "sclk",   "ahb",     "apb1", "apb1 timer", "apb2",
-                                  "apb2 timer", "apb3",   "adc",     "usb",  "pll",        "pll/2",
-                                  "pll/4",      "pllu",   "usb phy"};
     const char* const bounds[] = {"above", "in normal mode below", "unless exactly"};
     return QStringLiteral("%1: %2 %3 %4 (%5)\n")
-        .arg(QLatin1String(list), QLatin1String(clocks[static_cast<int>(limit.clock)]),
+        .arg(QLatin1String(list), clockName(limit.clock),
              QLatin1String(bounds[static_cast<int>(limit.bound)]))
         .arg(limit.compared)
         .arg(words);
@@ -134,6 +130,14 @@ QString limitsOf(const PageDescription& page)
 }
 
 } // namespace
+
+QString clockName(ClockSource clock)
+{
+    const char* const names[] = {"none", "untold", "outside", "lick",       "lext",  "hick",       "hext",
+                                 "sclk", "ahb",    "apb1",    "apb1 timer", "apb2",  "apb2 timer", "apb3",
+                                 "adc",  "usb",    "pll",     "pll/2",      "pll/4", "pllu",       "usb phy"};
+    return QLatin1String(names[static_cast<int>(clock)]);
+}
 
 QString inventoryOf(ClockTreePage& page)
 {
