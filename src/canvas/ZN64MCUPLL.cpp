@@ -27,7 +27,8 @@ QPixmap pictureFor(qreal pixelRatio, const QString& picture)
 ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* parent)
     : QWidget(parent), m_GraphicsView(new PinGraphicsView),
       m_ZN64ClockConf(std::make_unique<ZN64ConfigCLK>(series)),
-      m_GraphicsScene(std::make_unique<QGraphicsScene>()), m_tabOrder(*m_GraphicsScene)
+      m_GraphicsScene(std::make_unique<QGraphicsScene>()), m_tabOrder(*m_GraphicsScene),
+      m_background(new QGraphicsPixmapItem(pictureFor(devicePixelRatioF(), picture)))
 {
     m_GraphicsScene->setBackgroundBrush(QBrush(Qt::white, Qt::SolidPattern));
     m_GraphicsView->setRenderHint(QPainter::Antialiasing, true);
@@ -39,10 +40,10 @@ ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* p
     m_GraphicsView->horizontalScrollBar()->setStyleSheet(
         look::scrollBarSheet(QStringLiteral("height: 12px;")));
 
-    auto* background = new QGraphicsPixmapItem(pictureFor(devicePixelRatioF(), picture));
-    background->setTransformationMode(Qt::SmoothTransformation);
-    m_GraphicsScene->addItem(background);
-    m_GraphicsView->SetPixMapItem(background);
+    m_background->setTransformationMode(Qt::SmoothTransformation);
+    m_GraphicsScene->addItem(m_background);
+    m_GraphicsView->SetPixMapItem(m_background);
+    fitScene();
 
     auto* layout = new QVBoxLayout;
     layout->addWidget(m_GraphicsView);
@@ -59,6 +60,23 @@ ZN64MCUPLL::~ZN64MCUPLL()
     m_GraphicsView->setTabOrder(nullptr);
     m_GraphicsView->setScene(nullptr);
     m_GraphicsScene.reset();
+}
+
+void ZN64MCUPLL::fitScene()
+{
+    const QRectF picture = m_background->sceneBoundingRect();
+    QRectF seen = picture;
+    for (const QGraphicsItem* item : m_GraphicsScene->items())
+        if (item->isVisible())
+            seen |= item->sceneBoundingRect();
+    // As much on both sides: a picture that has room in the view stays where it is.
+    const qreal across = qMax(picture.left() - seen.left(), seen.right() - picture.right());
+    const qreal down = qMax(picture.top() - seen.top(), seen.bottom() - picture.bottom());
+    const QPoint before = m_GraphicsView->mapFromScene(0, 0);
+    const QPointF middle = m_GraphicsView->mapToScene(m_GraphicsView->viewport()->rect().center());
+    m_GraphicsScene->setSceneRect(picture.adjusted(-across, -down, across, down));
+    if (m_GraphicsView->mapFromScene(0, 0) != before)
+        m_GraphicsView->centerOn(middle);
 }
 
 void ZN64MCUPLL::SetLineEditColor(QLineEdit* edit, const QColor& color)

@@ -75,6 +75,10 @@ public:
     /// The wrapper of a box of labels. The caller hides it and shows it on its button's click.
     QDialog* New_toperipheralListGroup(const QStringList& texts, int x, int y, int unused, int spacing);
 
+private slots:
+    /// Lets the scroll bars reach what is open beyond the edges of the picture, and nothing else.
+    void fitScene();
+
 private:
     /// The one place that puts a widget on the scene.
     QDialog* embed(QWidget* control, int x, int y, QGraphicsProxyWidget** proxy = nullptr);
@@ -83,5 +87,6 @@ private:
     std::unique_ptr<ZN64ConfigCLK> m_ZN64ClockConf;
     std::unique_ptr<QGraphicsScene> m_GraphicsScene;
     TabOrder m_tabOrder;
+    QGraphicsPixmapItem* m_background;
     bool m_hext_enable_flag = false;
 };

@@ -74,6 +74,8 @@ CustomComboBox1* ZN64MCUPLL::NewComboBoxInScenePos(int x, int y, int width, int 
 {
     auto* combo = new CustomComboBox1(this);
     connect(combo->listView(), SIGNAL(focusInThis(bool)), m_GraphicsView, SLOT(Focus_InControl_Slot(bool)));
+    // Queued: the list has its place, or is gone, a little later.
+    connect(combo->listView(), SIGNAL(focusInThis(bool)), this, SLOT(fitScene()), Qt::QueuedConnection);
     combo->setFont(arial(10, 0));
     combo->setFixedWidth(width);
     combo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -174,5 +176,6 @@ QDialog* ZN64MCUPLL::New_toperipheralListGroup(const QStringList& texts, int x, 
     QGraphicsProxyWidget* proxy = nullptr;
     QDialog* wrapper = embed(box, x, y, &proxy);
     proxy->setZValue(2.0);
+    connect(proxy, SIGNAL(visibleChanged()), this, SLOT(fitScene()));
     return wrapper;
 }

@@ -185,14 +185,22 @@ void TestPage::oneListIsOpen()
     while (page.page->view()->itemAt(bare) && page.page->view()->itemAt(bare)->isWidget())
         bare += QPoint(1, 1);
     QCOMPARE(open(), QString());
+    const PinGraphicsView* view = page.page->view();
+    const QRectF picture = view->scene()->items(Qt::AscendingOrder).first()->sceneBoundingRect();
     for (const ListNames& list : listNames()) {
         const QString group = QString::fromLatin1(list.group);
         const QString button = QString::fromLatin1(list.button).mid(2);
         // The list of the round before is open still and makes room.
+        const QPoint place = page.middleOf(page.find(button));
         page.click(button);
         QCOMPARE(open(), group);
+        // What is open can be scrolled to, and the picture does not jump, but for the width of a scroll bar.
+        QVERIFY(
+            view->sceneRect().contains(ZN64MCUPLL::proxyOf(page.find(group.mid(2)))->sceneBoundingRect()));
+        QVERIFY(qAbs(page.middleOf(page.find(button)).y() - place.y()) <= 1);
         page.click(button);
         QCOMPARE(open(), QString());
+        QCOMPARE(view->sceneRect(), picture);
         page.click(button);
         page.find(QStringLiteral("sclk_lineEdit"))->setFocus();
         QTest::mouseClick(page.viewport(), Qt::LeftButton, Qt::NoModifier, bare);

@@ -86,6 +86,7 @@ int main(int argc, char* argv[])
     // The offscreen platform warns of every control on the scene.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QApplication application(argc, argv);
     look::apply();
     const QStringList arguments = QCoreApplication::arguments();

@@ -151,8 +151,7 @@ void FlexiblePllBlock::Update_Flexible_Controls()
 {
     for (const Parameter* each : {&m_ms, &m_ns}) {
         each->write(static_cast<int>(each->field.get(model())));
-        // The text may be the same as the one typed, and then tells nobody.
-        paintTyped(*each);
+        showCommitted(*each);
     }
 }
 
@@ -211,7 +210,15 @@ void FlexiblePllBlock::takeOver(const Parameter& parameter, int value)
     parameter.field.set(model(), value);
     if (parameter.typed() != value)
         parameter.write(value);
-    paintTyped(parameter);
+    showCommitted(parameter);
+}
+
+void FlexiblePllBlock::showCommitted(const Parameter& parameter)
+{
+    // A text that is the same as the one typed tells nobody. All other looks than this one are of committed
+    // values, and to exchange them would only cost time.
+    if (parameter.edit->styleSheet() == styles::pendingPllEdit())
+        paintTyped(parameter);
 }
 
 void FlexiblePllBlock::commit(const Parameter& parameter)

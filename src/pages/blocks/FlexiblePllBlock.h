@@ -57,6 +57,8 @@ private:
     void paintTyped(const Parameter& parameter);
     /// Puts a good value into the model, and the field shows it as committed.
     void takeOver(const Parameter& parameter, int value);
+    /// Takes the look of a pending value from a field whose value the model now has.
+    void showCommitted(const Parameter& parameter);
     bool takeMs(int& ms);
     bool takeNs(int ms);
 
