@@ -2,34 +2,6 @@
 #ifndef CONTROLLER_H
 #define CONTROLLER_H
 
-#define FIRMWARE_LIBRARY 1
-#define HAS_FLASH_PSR 1
-#define HAS_FLASH_DIV 1
-#define HAS_LDO 1
-#define HAS_AUTO_STEP 1
-#define HAS_HICK48 1
-#define HAS_SCLK_DIV 1
-#define HAS_HEXT_DIV 1
-#define HAS_APB3 1
-#define HAS_USB_DIV 1
-#define HAS_HICK_USB 1
-#define HAS_PLL_FP 1
-#define HAS_PLL_FR 1
-#define HAS_PLL_RANGE 1
-#define HAS_TWO_CLKOUTS 1
-#define HAS_MUX 1
-#define HAS_RTC 1
-#define HAS_ERTC 1
-#define HAS_ADC_DIV 1
-#define HAS_ADC_SOURCE 1
-#define HAS_I2C_USART 1
-#define HAS_USART3 1
-#define HAS_CAN 1
-#define HAS_CAN_PLLU 1
-#define HAS_I2SF5 1
-#define HAS_BPR 1
-#define HAS_BOARD 1
-#define HAS_POWER 1
 #include "firmware.h"
 
 #include <setjmp.h>
