@@ -9,11 +9,13 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -27,6 +29,13 @@ QString inViewSheet()
 QString notInViewSheet()
 {
     return QStringLiteral("background-color: rgb(0, 32, 82); color: white");
+}
+
+/// A small screen must hold the window with its frame, which the desktop makes later: room is left for it.
+QSize smallestSize(const QSize& screen)
+{
+    const QSize frame(16, 48);
+    return QSize(1000, 800).boundedTo(screen - frame);
 }
 
 } // namespace
@@ -44,7 +53,7 @@ FormConfiguration::FormConfiguration(QWidget* parent) : QWidget(parent)
     setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
     setWindowState(Qt::WindowMaximized);
     setContentsMargins(0, 0, 0, 0);
-    setMinimumSize(1000, 800);
+    setMinimumSize(smallestSize(QGuiApplication::primaryScreen()->availableSize()));
     setWindowTitle(QStringLiteral("Velmora Clockwright ") + QLatin1String(versionText));
     connectSlots();
 }

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QPointer>
+#include <QScreen>
 #include <QSizeGrip>
 
 namespace {
@@ -54,6 +55,14 @@ private slots:
         const QString version = m_program->form.windowTitle().section(u' ', -1);
         QVERIFY(version.startsWith(u'V'));
         QCOMPARE(FormConfiguration::VersionString2Int(version.mid(1)), ProgramVersion);
+    }
+
+    void smallestWindowFitsASmallScreen()
+    {
+        // The screen without a display has 800 by 600 pixels.
+        const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+        const QSize smallest = m_program->form.minimumSize();
+        QVERIFY(smallest.width() < screen.width() && smallest.height() < screen.height());
     }
 
     void commands_data()
