@@ -3,6 +3,7 @@
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
 #include "shell/MCUSelect_Form.h"
+#include "tools/offscreen.h"
 #include "widgets/look.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLoggingCategory>
 #include <QSaveFile>
 
 #include <cstdio>
@@ -83,8 +83,7 @@ bool writeFacts(const QDir& folder)
 
 int main(int argc, char* argv[])
 {
-    // The offscreen platform warns of every control on the scene.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    dropSizeHintMessages();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QApplication application(argc, argv);

@@ -2,11 +2,11 @@
 #include "steps.h"
 #include "tour.h"
 
+#include "tools/offscreen.h"
 #include "widgets/look.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -48,9 +48,8 @@ int main(int argc, char** argv)
     const QString folder =
         QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/../") +
                         (language.isEmpty() ? QStringLiteral("tour") : QLatin1String("manual/") + language));
-    // The offscreen platform, on which the manual's pictures are taken, warns of every control on the scene.
-    if (!language.isEmpty())
-        QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    // On the offscreen platform, on which the manual's pictures are taken.
+    dropSizeHintMessages();
     Tour tour(folder);
     if (!language.isEmpty())
         manualPictures(tour, language == QLatin1String("zh") ? UI_ZH : UI_EN);
