@@ -19,6 +19,7 @@ VersionAbout::VersionAbout(QWidget*) : QDialog(nullptr)
     auto* logo = named("logo_Label", new QLabel);
     // An icon knows the picture of twice the pixels too, for screens that can show it.
     logo->setPixmap(QIcon(QStringLiteral(":/image/Velmora_log.png")).pixmap(150, 150));
+    logo->setAccessibleName(QStringLiteral("Velmora, logo"));
     layout->addWidget(logo, 0, 0, 4, 1);
 
     const QString lines[] = {QStringLiteral("ZN64 Clockwright"), QLatin1String(versionText),

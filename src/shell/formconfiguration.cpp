@@ -62,6 +62,7 @@ void FormConfiguration::CreateTopLayout()
 {
     m_picTitle_Label = named("m_picTitle_Label", new QLabel(this));
     m_picTitle_Label->setPixmap(QIcon(QStringLiteral(":/image/Logo_1.png")).pixmap(308, 60));
+    m_picTitle_Label->setAccessibleName(QStringLiteral("ZN64 Clockwright, logo"));
     m_picTitle_Label->setFixedHeight(60);
 
     m_Title_GroupBox = named("m_Title_GroupBox", new QGroupBox(this));

@@ -1,9 +1,9 @@
+#include "testdata.h"
 #include "treepainter/builder.h"
 #include "treepainter/checks.h"
 #include "treepainter/pagelayout.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -102,19 +102,18 @@ void TestTrees::includes_data()
     QTest::addColumn<QString>("part");
     QTest::addColumn<QString>("statements");
     QTest::addColumn<QString>("told");
-    QTest::newRow("in its place") << "one\ninclude part.tree\nthree"
-                                  << "# part\ntwo"
-                                  << "main.tree:1 one, part.tree:2 two, main.tree:3 three" << QString();
-    QTest::newRow("with its condition") << "?a include part.tree"
-                                        << "?!b two"
-                                        << "part.tree:1 ?a ?!b two" << QString();
-    QTest::newRow("without end") << "include part.tree"
-                                 << "include part.tree" << QString()
-                                 << "part.tree:1: include takes one file, and no file itself again";
-    QTest::newRow("a fault in the part") << "include part.tree\ntwo"
-                                         << "\ntext \"open"
-                                         << "main.tree:2 two"
-                                         << "part.tree:2: the text has no closing quote";
+    const auto row = [](const char* name, const char* main, const char* part, const char* statements,
+                        const char* told) {
+        QTest::newRow(name) << QString::fromUtf8(main) << QString::fromUtf8(part)
+                            << QString::fromUtf8(statements) << QString::fromUtf8(told);
+    };
+    row("in its place", "one\ninclude part.tree\nthree", "# part\ntwo",
+        "main.tree:1 one, part.tree:2 two, main.tree:3 three", "");
+    row("with its condition", "?a include part.tree", "?!b two", "part.tree:1 ?a ?!b two", "");
+    row("without end", "include part.tree", "include part.tree", "",
+        "part.tree:1: include takes one file, and no file itself again");
+    row("a fault in the part", "include part.tree\ntwo", "\ntext \"open", "main.tree:2 two",
+        "part.tree:2: the text has no closing quote");
 }
 
 void TestTrees::includes()
@@ -124,12 +123,8 @@ void TestTrees::includes()
     QFETCH(QString, statements);
     QFETCH(QString, told);
     const QTemporaryDir folder;
-    const auto write = [&folder](const char* name, const QString& text) {
-        QFile file(folder.filePath(QLatin1String(name)));
-        return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) == text.size();
-    };
-    QVERIFY(write("main.tree", main));
-    QVERIFY(write("part.tree", part));
+    QVERIFY(writeFile(folder.filePath(QStringLiteral("main.tree")), main.toUtf8()));
+    QVERIFY(writeFile(folder.filePath(QStringLiteral("part.tree")), part.toUtf8()));
     Problems problems;
     QStringList read;
     for (const Statement& statement : readTree(folder.filePath(QStringLiteral("main.tree")), problems)) {
@@ -299,54 +294,38 @@ void TestTrees::pages_data()
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("told");
+    const auto row = [](const char* name, const QRectF& place, const char* first, const char* line,
+                        const char* told) {
+        QTest::newRow(name) << place << QString::fromUtf8(first) << QString::fromUtf8(line)
+                            << QString::fromUtf8(told);
+    };
     const QRectF onRow(240, 70, 30, 25);
-    QTest::newRow("overlaps") << QRectF(20, 60, 60, 30) << "same"
-                              << ""
-                              << "t.tree: osc and m_other_ComboBox overlap";
-    QTest::newRow("allowed") << QRectF(20, 60, 60, 30) << "same"
-                             << "allow m_other_ComboBox osc"
-                             << "";
-    QTest::newRow("allowed for nothing")
-        << QRectF(100, 200, 60, 30) << "same"
-        << "allow m_other_ComboBox osc"
-        << "t.tree:5: nothing needs this allowance of m_other_ComboBox and osc";
-    QTest::newRow("too close to a label") << QRectF(62, 10, 60, 25) << "same"
-                                          << ""
-                                          << "t.tree: m_osc_Label stands too close to m_other_ComboBox";
-    QTest::newRow("out of the picture") << QRectF(380, 200, 60, 25) << "same"
-                                        << ""
-                                        << "t.tree: m_other_ComboBox reaches out of the picture";
-    QTest::newRow("off its middle") << QRectF(100, 200, 60, 30) << "same"
-                                    << "wire m_other_ComboBox.left-8 x=20 y=250"
-                                    << "t.tree:5: the wire meets m_other_ComboBox off its middle";
-    QTest::newRow("a step in the row")
-        << QRectF(100, 200, 60, 30) << "same"
-        << "wire m_other_ComboBox.left-2 x=20 y=250\nwire main@x=110 y=150 x=180 y=217 m_other_ComboBox.right"
-        << "t.tree:5: the row steps by 4 at m_other_ComboBox";
-    QTest::newRow("allowed off its middle")
-        << QRectF(100, 200, 60, 30) << "same"
-        << "allow middle m_other_ComboBox\nwire m_other_ComboBox.left-8 x=20 y=250"
-        << "";
-    QTest::newRow("in the way of a state") << onRow << "hides it"
-                                           << ""
-                                           << "t.tree:4: the wire crosses m_other_ComboBox, while other";
-    QTest::newRow("in front of the wire") << onRow << "hides it"
-                                          << "behind m_other_ComboBox"
-                                          << "";
-    QTest::newRow("in front, off its middle") << onRow.translated(0, 6) << "hides it"
-                                              << "behind m_other_ComboBox"
-                                              << "t.tree:4: the wire crosses m_other_ComboBox, while other";
-    QTest::newRow("nothing in front")
-        << QRectF(100, 200, 60, 30) << "hides it"
-        << "behind m_other_ComboBox"
-        << "t.tree:4: the wire does not run behind m_other_ComboBox, while other";
-    QTest::newRow("hidden end")
-        << QRectF(100, 200, 60, 30) << "hides it"
-        << "wire m_other_ComboBox.left x=20 y=250"
-        << "t.tree:5: the wire ends at m_other_ComboBox, which is hidden, while first";
-    QTest::newRow("moved end") << QRectF(100, 200, 60, 30) << "moves it"
-                               << "wire m_other_ComboBox.left x=20 y=280"
-                               << "t.tree:5: the wire does not reach m_other_ComboBox, while other";
+    row("overlaps", QRectF(20, 60, 60, 30), "same", "", "t.tree: osc and m_other_ComboBox overlap");
+    row("allowed", QRectF(20, 60, 60, 30), "same", "allow m_other_ComboBox osc", "");
+    row("allowed for nothing", QRectF(100, 200, 60, 30), "same", "allow m_other_ComboBox osc",
+        "t.tree:5: nothing needs this allowance of m_other_ComboBox and osc");
+    row("too close to a label", QRectF(62, 10, 60, 25), "same", "",
+        "t.tree: m_osc_Label stands too close to m_other_ComboBox");
+    row("out of the picture", QRectF(380, 200, 60, 25), "same", "",
+        "t.tree: m_other_ComboBox reaches out of the picture");
+    row("off its middle", QRectF(100, 200, 60, 30), "same", "wire m_other_ComboBox.left-8 x=20 y=250",
+        "t.tree:5: the wire meets m_other_ComboBox off its middle");
+    row("a step in the row", QRectF(100, 200, 60, 30), "same",
+        "wire m_other_ComboBox.left-2 x=20 y=250\nwire main@x=110 y=150 x=180 y=217 m_other_ComboBox.right",
+        "t.tree:5: the row steps by 4 at m_other_ComboBox");
+    row("allowed off its middle", QRectF(100, 200, 60, 30), "same",
+        "allow middle m_other_ComboBox\nwire m_other_ComboBox.left-8 x=20 y=250", "");
+    row("in the way of a state", onRow, "hides it", "",
+        "t.tree:4: the wire crosses m_other_ComboBox, while other");
+    row("in front of the wire", onRow, "hides it", "behind m_other_ComboBox", "");
+    row("in front, off its middle", onRow.translated(0, 6), "hides it", "behind m_other_ComboBox",
+        "t.tree:4: the wire crosses m_other_ComboBox, while other");
+    row("nothing in front", QRectF(100, 200, 60, 30), "hides it", "behind m_other_ComboBox",
+        "t.tree:4: the wire does not run behind m_other_ComboBox, while other");
+    row("hidden end", QRectF(100, 200, 60, 30), "hides it", "wire m_other_ComboBox.left x=20 y=250",
+        "t.tree:5: the wire ends at m_other_ComboBox, which is hidden, while first");
+    row("moved end", QRectF(100, 200, 60, 30), "moves it", "wire m_other_ComboBox.left x=20 y=280",
+        "t.tree:5: the wire does not reach m_other_ComboBox, while other");
 }
 
 void TestTrees::pages()
