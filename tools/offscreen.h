@@ -12,8 +12,8 @@ inline bool isSizeHintMessage(const QString& message)
 inline void dropSizeHintMessages()
 {
     static QtMessageHandler next = nullptr;
-    next = qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    next =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
             if (!isSizeHintMessage(message))
                 next(type, context, message);
         });
