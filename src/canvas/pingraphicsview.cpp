@@ -204,7 +204,7 @@ bool PinGraphicsView::event(QEvent* event)
         return QGraphicsView::event(event);
     const bool next = tab && !(pressed->modifiers() & Qt::ShiftModifier);
     // Past the last control the focus goes on to the window's other widgets.
-    event->setAccepted(m_tabOrder->move(next) || focusNextPrevChild(next));
+    event->setAccepted(m_tabOrder->listIsOpen() || m_tabOrder->move(next) || focusNextPrevChild(next));
     return true;
 }
 

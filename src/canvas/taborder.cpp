@@ -1,7 +1,9 @@
 #include "canvas/taborder.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QLineEdit>
@@ -49,6 +51,12 @@ QWidget* TabOrder::current() const
         if (control->window()->graphicsProxyWidget()->hasFocus())
             return control;
     return nullptr;
+}
+
+bool TabOrder::listIsOpen() const
+{
+    const auto* combo = qobject_cast<const QComboBox*>(m_last.data());
+    return combo && combo->view()->isVisible();
 }
 
 QVector<QWidget*> TabOrder::stops() const

@@ -21,6 +21,8 @@ public:
 
     /// The control that has the focus of the scene; null if the picture or a mere label has it.
     QWidget* current() const;
+    /// Whether the list of a combo box is open, which then has the keyboard to itself.
+    bool listIsOpen() const;
     /// To the next or previous stop, from where the focus was last; false, moving nothing, at the end.
     bool move(bool next);
     /// To the first or last stop, for the focus that comes from outside; false if nothing can be used.

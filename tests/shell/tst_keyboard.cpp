@@ -200,6 +200,7 @@ private slots:
         auto* ahb = keyboard.control<QComboBox>("m_ahbdiv_ComboBox");
         for (int opens : {int(Qt::Key_Space), int(Qt::Key_Down)}) {
             keyboard.pressAt(ahb, opens, opens == Qt::Key_Down ? Qt::AltModifier : Qt::NoModifier);
+            keyboard.press(Qt::Key_Tab);
             QVERIFY(ahb->view()->isVisible());
             const int index = ahb->currentIndex();
             const QPointF corner = keyboard.view()->mapToScene(0, 0);
@@ -244,7 +245,6 @@ private slots:
             const QImage shot = keyboard.view()->viewport()->grab(QRect(above, QSize(1, 1))).toImage();
             return shot.pixelColor(0, 0) == QColor(0, 32, 82);
         };
-        QVERIFY(!framed());
         keyboard.goTo(combo);
         QVERIFY(framed());
         keyboard.press(Qt::Key_Tab);
