@@ -5,6 +5,7 @@
 #include "pages/series/seriespages.h"
 #include "preview/FormCodeView.h"
 #include "shell/formconfiguration.h"
+#include "tools/offscreen.h"
 #include "widgets/look.h"
 
 #include <QApplication>
@@ -238,6 +239,7 @@ void benchWindow()
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    dropSizeHintMessages();
     QApplication application(argc, argv);
     look::apply();
     QTemporaryDir folder;

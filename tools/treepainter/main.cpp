@@ -6,13 +6,13 @@
 
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
+#include "tools/offscreen.h"
 #include "widgets/look.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QFontInfo>
-#include <QLoggingCategory>
 
 #include <cstdio>
 #include <optional>
@@ -123,8 +123,7 @@ int workOn(const QString& series, const std::optional<Task>& task)
 
 int main(int argc, char* argv[])
 {
-    // The offscreen platform warns of every control on the scene.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    dropSizeHintMessages();
     QApplication application(argc, argv);
     look::apply();
     QCommandLineParser arguments;
