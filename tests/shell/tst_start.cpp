@@ -7,8 +7,6 @@
 #include <QMenuBar>
 #include <QTimer>
 
-#include <utility>
-
 /// The program's own main(), under another name.
 int clockwrightMain(int argc, char* argv[]);
 
@@ -30,27 +28,19 @@ QString describe(const QMenuBar* bar)
     return lines.join(" | "_s);
 }
 
-/// What the palette shows faintly, or on a dark ground.
+/// The light texts and the dark grounds of the palette.
 QStringList faintColorsOf(const QPalette& palette)
 {
     using P = QPalette;
-    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {
-        {P::WindowText,      P::Window     },
-        {P::Text,            P::Base       },
-        {P::ButtonText,      P::Button     },
-        {P::Link,            P::Base       },
-        {P::PlaceholderText, P::Base       },
-        {P::ToolTipText,     P::ToolTipBase},
-        {P::HighlightedText, P::Highlight  }
-    };
     QStringList faint;
-    for (P::ColorGroup group : {P::Active, P::Inactive, P::Disabled})
-        for (const auto& [text, ground] : pairs) {
-            const int light = qGray(palette.color(group, ground).rgb());
-            if (qAbs(light - qGray(palette.color(group, text).rgb())) < 100 ||
-                (light < 200 && ground != P::Highlight))
-                faint += "group %1, role %2"_s.arg(group).arg(text);
-        }
+    for (P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
+        const auto light = [&](P::ColorRole role) { return qGray(palette.color(group, role).rgb()) > 180; };
+        for (P::ColorRole text :
+             {P::WindowText, P::Text, P::ButtonText, P::PlaceholderText, P::Link, P::ToolTipText})
+            faint += light(text) ? QStringList("text %1"_s.arg(text)) : QStringList();
+        for (P::ColorRole ground : {P::Window, P::Base, P::Button, P::AlternateBase, P::ToolTipBase})
+            faint += light(ground) ? QStringList() : QStringList("ground %1"_s.arg(ground));
+    }
     return faint;
 }
 
