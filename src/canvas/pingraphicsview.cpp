@@ -174,7 +174,8 @@ bool PinGraphicsView::takeKey(int key)
 void PinGraphicsView::setTabOrder(TabOrder* order)
 {
     m_tabOrder = order;
-    scene()->disconnect(this);
+    // Only this one: the scene also tells the view of its size.
+    disconnect(scene(), &QGraphicsScene::focusItemChanged, this, &PinGraphicsView::followFocus);
     if (order)
         connect(scene(), &QGraphicsScene::focusItemChanged, this, &PinGraphicsView::followFocus);
 }

@@ -110,6 +110,9 @@ bool TabOrder::moveInGroup(bool next)
         return false;
     const QVector<QAbstractButton*> usable = usableButtons(button->group());
     const int count = usable.size();
+    // Greyed since, all of them.
+    if (count == 0)
+        return false;
     QAbstractButton* neighbour = usable.at((usable.indexOf(button) + (next ? 1 : count - 1)) % count);
     focus(neighbour, reasonOf(next));
     neighbour->click();

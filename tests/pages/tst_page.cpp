@@ -1,5 +1,7 @@
 #include "pagefixture.h"
 
+#include <QScrollBar>
+
 // The page as a whole: what is grey, which list is open, the reset, and a pass that has nothing to do.
 
 class TestPage : public QObject
@@ -187,6 +189,11 @@ void TestPage::oneListIsOpen()
     QCOMPARE(open(), QString());
     const PinGraphicsView* view = page.page->view();
     const QRectF picture = view->scene()->items(Qt::AscendingOrder).first()->sceneBoundingRect();
+    // Both ends of what the bar can bring into view.
+    const auto reach = [view] {
+        const QScrollBar* bar = view->verticalScrollBar();
+        return bar->maximum() - bar->minimum() + view->viewport()->height();
+    };
     for (const ListNames& list : listNames()) {
         const QString group = QString::fromLatin1(list.group);
         const QString button = QString::fromLatin1(list.button).mid(2);
@@ -197,6 +204,7 @@ void TestPage::oneListIsOpen()
         // What is open can be scrolled to, and the picture does not jump, but for the width of a scroll bar.
         QVERIFY(
             view->sceneRect().contains(ZN64MCUPLL::proxyOf(page.find(group.mid(2)))->sceneBoundingRect()));
+        QVERIFY(reach() >= view->sceneRect().height());
         QVERIFY(qAbs(page.middleOf(page.find(button)).y() - place.y()) <= 1);
         page.click(button);
         QCOMPARE(open(), QString());

@@ -232,6 +232,17 @@ private slots:
         QCOMPARE(keyboard.focus(), second);
         second->setEnabled(false);
         QVERIFY(keyboard.focus() != second && Keyboard::canBeUsed(keyboard.focus()));
+        // Nothing is left to go to: the keys are the picture's again.
+        keyboard.goTo(keyboard.control("m_sclkselect_pll_RadioButton"));
+        const auto all = keyboard.page()->findChildren<QWidget*>(QRegularExpression("^m_"_s));
+        for (QWidget* control : all)
+            if (!control->objectName().contains("sclkselect"_s))
+                control->setEnabled(false);
+        for (auto* radio : keyboard.page()->findChildren<QRadioButton*>())
+            radio->setEnabled(false);
+        const QPointF corner = keyboard.view()->mapToScene(0, 0);
+        keyboard.press(Qt::Key_Left);
+        QVERIFY(keyboard.view()->mapToScene(0, 0) != corner);
     }
 
     /// The frame is drawn round the control that has the focus, and goes with it.
