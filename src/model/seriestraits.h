@@ -38,6 +38,8 @@ struct SeriesTraits
     ZN64MCUSERIALS series;
     /// The series word, such as "G110R"; empty for a value that is no series.
     const char* word;
+    /// The stem of the names of its templates and generated files; siblings may share one.
+    const char* stem;
     /// The highest system clock, MHz.
     int sysclkMax;
 

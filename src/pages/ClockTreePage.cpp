@@ -10,7 +10,7 @@
 #include <QScopedValueRollback>
 
 ClockTreePage::ClockTreePage(const PageDescription& description, QWidget* parent)
-    : ZN64MCUPLL(description.series, QLatin1String(":/image/") + QLatin1String(description.picture), parent),
+    : ZN64MCUPLL(description.series, QLatin1String(":/image/") + description.pictureName(), parent),
       m_description(description)
 {
 }
@@ -25,6 +25,7 @@ void ClockTreePage::build()
 {
     createBlocks();
     NewAllControl();
+    orderSettings();
     view()->setAccessibleName(QStringLiteral("clock tree"));
     view()->setAccessibleDescription(
         QStringLiteral("The clock tree of the %1: oscillators on the left, then the PLL, "
@@ -37,10 +38,9 @@ void ClockTreePage::build()
 void ClockTreePage::InitAllControl()
 {
     const QScopedValueRollback<bool> taking(m_takingDesign, true);
-    if (m_description.fixedFields)
-        m_description.fixedFields(model());
-    for (const StartValue& start : m_description.startValues())
-        setting(start.setting).set(start.value);
+    setFieldsWithoutControl();
+    for (const SettingRow& row : m_startOrder)
+        m_settings[row.name].set(row.start);
     UI_Display();
     UpdateCalculateResult();
 }
@@ -49,19 +49,6 @@ void ClockTreePage::ControlsConnectSlots()
 {
     for (const auto& block : m_blocks)
         block->ControlsConnectSlots();
-}
-
-void ClockTreePage::addSetting(const char* name, Setting setting)
-{
-    m_settings.insert(QLatin1String(name), std::move(setting));
-}
-
-const Setting& ClockTreePage::setting(const QString& name) const
-{
-    const auto setting = m_settings.constFind(name);
-    if (setting == m_settings.constEnd())
-        qFatal("no block has a setting %s", qPrintable(name));
-    return *setting;
 }
 
 void ClockTreePage::mousePressEvent(QMouseEvent* event)
@@ -87,7 +74,7 @@ void ClockTreePage::UpdateCalculateResult()
 void ClockTreePage::UpdateResultControls()
 {
     // The correction of a bad PLL input has repainted everything.
-    if (m_description.checksPllInput && !m_pllSource->PLLInputSourceClockCheck())
+    if (m_description.checksPllInput() && !m_pllSource->PLLInputSourceClockCheck())
         return;
     for (const auto& block : m_blocks)
         block->UpdateResultControls();

@@ -2,6 +2,7 @@
 
 #include "canvas/ZN64MCUPLL.h"
 #include "pages/blocks/ClockTree.h"
+#include "pages/description/settingrows.h"
 
 #include <QHash>
 #include <QSet>
@@ -50,8 +51,11 @@ public:
 
     /// The controls that have a place but are made by no block: faults in the series' tables.
     QStringList unusedPlaces() const;
-    /// The names of all settings, those that no design file holds included.
-    QStringList settingNames() const { return m_settings.keys(); }
+    /// The settings of the page with their start values, in the order of the reset.
+    const std::vector<SettingRow>& startOrder() const { return m_startOrder; }
+    /// The settings of a design file, as they stand in it and as they are read.
+    const QStringList& fileOrder() const { return m_fileOrder; }
+    const QStringList& readingOrder() const { return m_readingOrder; }
 
 protected:
     ClockTreePage(const PageDescription& description, QWidget* parent);
@@ -118,7 +122,7 @@ private:
     QWidget* widget() override { return this; }
 
     void addControls(const char* routine, std::function<void()> make) override;
-    void addSetting(const char* name, Setting setting) override;
+    void addSetting(const QString& name, Setting setting) override;
 
     // Its own work.
 
@@ -132,7 +136,10 @@ private:
     /// Names the control for the program, and for the ear where it can be used.
     template <class Widget>
     Widget* identified(const QString& name, const QString& spoken, Widget* control);
-    const Setting& setting(const QString& name) const;
+    /// Puts the settings that the blocks have made in the orders of reset, writing and reading.
+    void orderSettings();
+    /// Sets the fields of the model for which the page has no control.
+    void setFieldsWithoutControl();
     bool TextBox_Input_Valid_Check();
     /// Whether anything but the RTC needs hext, so that its typed value must be good.
     bool hextNeeded() const;
@@ -152,6 +159,9 @@ private:
     std::vector<std::unique_ptr<ClockBlock>> m_blocks;
     QHash<QString, std::function<void()>> m_routines;
     QHash<QString, Setting> m_settings;
+    std::vector<SettingRow> m_startOrder;
+    QStringList m_fileOrder;
+    QStringList m_readingOrder;
     QSet<QString> m_takenPlaces;
     QVector<QWidget*> m_made; ///< what a person can use of the controls that the running routine has made
     bool m_takingDesign = false;

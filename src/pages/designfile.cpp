@@ -40,8 +40,8 @@ bool ClockTreePage::writeDesign(const QString& path, const QString& seriesName) 
     writer.writeStartDocument();
     writer.writeStartElement(QStringLiteral("Configuration"));
     writer.writeTextElement(QStringLiteral("MCU"), seriesName);
-    for (const QString& name : m_description.settingsInFile())
-        writer.writeTextElement(name, setting(name).text());
+    for (const QString& name : m_fileOrder)
+        writer.writeTextElement(name, m_settings[name].text());
     writer.writeEndElement();
     return replaceFile(path, text);
 }
@@ -58,8 +58,8 @@ void ClockTreePage::OpenFromDocument(const QDomDocument& design)
     // What is out of range is told at the next edit or on generating.
     const QScopedValueRollback<bool> reading(m_takingDesign, true);
     InitAllControl();
-    for (const QString& name : m_description.settingsInReadingOrder())
-        setting(name).read(GetXMLElementString(design, name));
+    for (const QString& name : qAsConst(m_readingOrder))
+        m_settings[name].read(GetXMLElementString(design, name));
     UI_Display();
     UpdateRTCParam();
     UpdateCalculateResult();

@@ -98,18 +98,18 @@ void ClockTreePage::createBlocks()
     m_lowSpeed = addBlock<LowSpeedBlock>();
     m_highSpeed = addBlock<HighSpeedBlock>();
     m_pllSource = addBlock<PllSourceBlock>();
-    if (m_description.pllMultiplier)
+    if (m_description.pllMultiplier())
         addBlock<PllMultiplierBlock>();
-    if (m_description.pllMultiplier && m_description.pllParameters)
+    if (m_description.pllModes())
         addBlock<PllModeBlock>();
     m_pllOutput = addBlock<PllOutputBlock>();
-    if (m_description.pllParameters)
+    if (m_description.pllParameters())
         m_flexiblePll = addBlock<FlexiblePllBlock>();
     m_systemClock = addBlock<SystemClockBlock>();
-    if (m_description.hickToSclk)
+    if (m_description.hickToSclk())
         m_hickRoute = addBlock<HickRouteBlock>();
     m_outputs = addBlock<OutputsBlock>();
-    if (m_description.adcDivider)
+    if (m_description.adcSwitch())
         m_adc = addBlock<AdcBlock>();
     addBlock<BusesBlock>();
     for (const Divider& divider : m_description.dividers)
@@ -118,7 +118,7 @@ void ClockTreePage::createBlocks()
         m_usb = addBlock<UsbBlock>();
         addBlock<DividerBlock>(m_description.usb->divider, useOf(m_description.usb->divider));
     }
-    if (m_description.usbPhy)
+    if (m_description.usbPhy())
         m_usbPhy = addBlock<UsbPhyBlock>();
     for (const PeripheralClock& clock : m_description.peripherals)
         addBlock<PeripheralClockBlock>(clock);

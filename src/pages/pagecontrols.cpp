@@ -44,9 +44,7 @@ QStringList ClockTreePage::unusedPlaces() const
 QLabel* ClockTreePage::placeLabel(const QString& name)
 {
     const Control& place = take(name, ControlType::Label);
-    QString text = place.text;
-    text.replace(QLatin1String("%1"), QString::number(m_description.typedSclk.highest));
-    QLabel* label = NewQLabelInScenePos(text, place.x, place.y, place.pointSize, place.weight);
+    QLabel* label = NewQLabelInScenePos(place.text, place.x, place.y, place.pointSize, place.weight);
     // Its name is what it shows.
     label->setAccessibleDescription(place.spoken);
     return named(name, label);

@@ -57,7 +57,7 @@ bool ClockTreePage::GenerateCode()
     const QString srcPath = folder + QLatin1String("/src");
     if (!prepareFolders(incPath, srcPath))
         return false;
-    if (!model().GenerateCode(incPath, srcPath, QLatin1String(m_description.stem))) {
+    if (!model().GenerateCode(incPath, srcPath, m_description.stem())) {
         showMessage(QMessageBox::Critical, translated("Error"), translated("Generate code failed!"),
                     {
                         {QMessageBox::Ok, translated("OK")}
@@ -73,7 +73,7 @@ void ClockTreePage::showGenerated(const QString& folder) const
 {
     const QString text = translated("Generate code finished!  Files:") +
                          QStringLiteral("\n\nsrc/main.c\nsrc/%1_clock.c\ninc/%1_clock.h\ninc/%1_conf.h\n")
-                             .arg(QLatin1String(m_description.stem));
+                             .arg(m_description.stem());
     QMessageBox box(QMessageBox::Information, translated("Information"), text);
     box.setTextFormat(Qt::PlainText);
     QPushButton* open = box.addButton(translated(" Open Folder  "), QMessageBox::ActionRole);

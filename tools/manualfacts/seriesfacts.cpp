@@ -32,9 +32,8 @@ QJsonArray itemsOf(const Divider& divider)
 /// A divider under the caption that it has on the page.
 QJsonObject dividerFacts(const Divider& divider, const PageDescription& page)
 {
-    const QString label = QLatin1String(divider.control) + QLatin1String("_Label");
     QJsonObject facts;
-    facts[QLatin1String("caption")] = page.places.at(label).text;
+    facts[QLatin1String("caption")] = page.places.at(divider.label()).text;
     facts[QLatin1String("divisors")] = itemsOf(divider);
     return facts;
 }
@@ -69,18 +68,18 @@ QJsonArray limitsOf(const Limits& limits)
 QJsonObject pllFacts(const PageDescription& page, const SeriesTraits& traits)
 {
     QJsonObject pll;
-    pll[QLatin1String("normal")] = page.pllMultiplier;
-    pll[QLatin1String("flexible")] = page.pllParameters;
-    pll[QLatin1String("checksHext")] = page.checksPllInput;
-    pll[QLatin1String("hextDivided")] = page.pllHextDivider;
+    pll[QLatin1String("normal")] = page.pllMultiplier();
+    pll[QLatin1String("flexible")] = page.pllParameters();
+    pll[QLatin1String("checksHext")] = page.checksPllInput();
+    pll[QLatin1String("hextDivided")] = page.pllHextDivider();
     pll[QLatin1String("inputMin")] = inputlimits::pllInputMin;
     pll[QLatin1String("inputMax")] = inputlimits::pllInputMax;
     pll[QLatin1String("vcoMin")] = vcoMinMHz;
     pll[QLatin1String("vcoMax")] = traits.vcoTop();
     pll[QLatin1String("half")] = traits.sysclk_half_pll;
-    if (page.pllMultiplier)
+    if (page.pllMultiplier())
         pll[QLatin1String("multiplier")] = QJsonArray{divisors::pllMul.front(), divisors::pllMul.back()};
-    if (page.pllParameters) {
+    if (page.pllParameters()) {
         pll[QLatin1String("ms")] = QJsonArray{divisors::pllMsMin, divisors::pllMsMax};
         pll[QLatin1String("ns")] = QJsonArray{divisors::pllNsMin, divisors::pllNsMax};
     }
@@ -94,8 +93,8 @@ QJsonValue usbFacts(const PageDescription& page)
     QJsonObject facts;
     facts[QLatin1String("hick")] = page.usb->hickRoute;
     facts[QLatin1String("divider")] = dividerFacts(page.usb->divider, page);
-    facts[QLatin1String("phy")] = page.usbPhy;
-    facts[QLatin1String("movesPll")] = page.usb->movesBusyPll;
+    facts[QLatin1String("phy")] = page.usbPhy();
+    facts[QLatin1String("movesPll")] = page.usbMovesBusyPll;
     return facts;
 }
 
@@ -130,7 +129,7 @@ QJsonArray peripheralFacts(const PageDescription& page)
         QJsonObject facts;
         facts[QLatin1String("stem")] = QLatin1String(clock.stem);
         facts[QLatin1String("sources")] = QJsonArray::fromStringList(sources);
-        facts[QLatin1String("limit")] = clock.limit;
+        facts[QLatin1String("limit")] = *clock.limit;
         array.append(facts);
     }
     return array;
@@ -139,8 +138,8 @@ QJsonArray peripheralFacts(const PageDescription& page)
 QJsonObject startFacts(const ClockTreePage& page)
 {
     QJsonObject start;
-    for (const StartValue& value : page.description().startValues())
-        start.insert(value.setting, value.value);
+    for (const SettingRow& row : page.startOrder())
+        start.insert(row.name, row.start);
     for (const ClockSource clock : {ClockSource::Sclk, ClockSource::Ahb, ClockSource::Apb1, ClockSource::Apb2,
                                     ClockSource::Apb3, ClockSource::Pll})
         start.insert(clockName(clock), clockValue(clock, page.model()));
@@ -157,12 +156,12 @@ QJsonObject factsOf(const ClockTreePage& page)
     QJsonObject facts;
     facts[QLatin1String("word")] = QLatin1String(traits.word);
     facts[QLatin1String("name")] = traits.name();
-    facts[QLatin1String("stem")] = QLatin1String(description.stem);
+    facts[QLatin1String("stem")] = description.stem();
     facts[QLatin1String("hext")] = QJsonArray{inputlimits::hextMin, inputlimits::hextMax};
     facts[QLatin1String("hick")] = traits.hickStart();
     facts[QLatin1String("sclk")] =
         QJsonArray{typed.lowest ? QJsonValue(*typed.lowest) : QJsonValue(), typed.highest};
-    facts[QLatin1String("warnsSclk")] = description.sclkWarnings;
+    facts[QLatin1String("warnsSclk")] = description.sclkWarnings();
     facts[QLatin1String("painted")] = limitsOf(description.painted);
     facts[QLatin1String("saving")] = limitsOf(description.onSaving);
     facts[QLatin1String("generating")] = limitsOf(description.onGenerating);
@@ -171,12 +170,12 @@ QJsonObject factsOf(const ClockTreePage& page)
     facts[QLatin1String("pll")] = pllFacts(description, traits);
     facts[QLatin1String("dividers")] = dividersOf(description.dividers, description);
     facts[QLatin1String("rtcFixed")] =
-        description.rtcHextDivisor ? QJsonValue(*description.rtcHextDivisor) : QJsonValue();
+        description.rtcDivider() ? QJsonValue() : QJsonValue(description.rtcHextDivisor);
     facts[QLatin1String("raisesApbAtHalf")] = traits.apb_half_rule;
     facts[QLatin1String("raisesApb1At120")] = traits.apb1_120_rule;
-    facts[QLatin1String("hickToSclk")] = description.hickToSclk;
+    facts[QLatin1String("hickToSclk")] = description.hickToSclk();
     facts[QLatin1String("usb")] = usbFacts(description);
-    facts[QLatin1String("adcSwitch")] = description.adcDivider;
+    facts[QLatin1String("adcSwitch")] = description.adcSwitch();
     facts[QLatin1String("clockOutputs")] = clockOutputFacts(description);
     facts[QLatin1String("peripherals")] = peripheralFacts(description);
     facts[QLatin1String("start")] = startFacts(page);

@@ -16,6 +16,44 @@ QString pairName(const Word& word)
     return word.quoted ? QLatin1Char('"') + word.text + QLatin1Char('"') : word.text;
 }
 
+/// Statements that draw wires come behind those that place figures.
+bool isWired(const Statement& statement)
+{
+    static const QStringList keywords{QStringLiteral("wire"),     QStringLiteral("chain"),
+                                      QStringLiteral("spine"),    QStringLiteral("fan"),
+                                      QStringLiteral("clockout"), QStringLiteral("sources")};
+    return keywords.contains(statement.keyword);
+}
+
+std::optional<QString> faultOf(TreeBuilder& builder, const Statement& statement)
+{
+    try {
+        builder.add(statement);
+        return std::nullopt;
+    } catch (const TreeError& error) {
+        return error.message();
+    }
+}
+
+/// A wire may branch off one of another part, whatever the order of the parts: what cannot be drawn yet is
+/// tried again while anything else can.
+void drawWires(TreeBuilder& builder, std::vector<Statement> wires, Problems& problems)
+{
+    Problems faults;
+    for (std::size_t before = wires.size() + 1; !wires.empty() && wires.size() < before;) {
+        before = wires.size();
+        faults.clear();
+        std::vector<Statement> rest;
+        for (const Statement& statement : wires)
+            if (const std::optional<QString> fault = faultOf(builder, statement)) {
+                faults.push_back({statement.source, *fault});
+                rest.push_back(statement);
+            }
+        wires = std::move(rest);
+    }
+    problems.insert(problems.end(), faults.begin(), faults.end());
+}
+
 } // namespace
 
 const QHash<QString, TreeBuilder::Handler>& TreeBuilder::handlers()
@@ -24,12 +62,14 @@ const QHash<QString, TreeBuilder::Handler>& TreeBuilder::handlers()
         {QStringLiteral("allow"),    &TreeBuilder::addAllowance  },
         {QStringLiteral("let"),      &TreeBuilder::addLet        },
         {QStringLiteral("room"),     &TreeBuilder::addRoom       },
+        {QStringLiteral("steps"),    &TreeBuilder::addSteps      },
         {QStringLiteral("mux"),      &TreeBuilder::addMux        },
         {QStringLiteral("box"),      &TreeBuilder::addBox        },
         {QStringLiteral("pad"),      &TreeBuilder::addPad        },
         {QStringLiteral("tag"),      &TreeBuilder::addTag        },
         {QStringLiteral("text"),     &TreeBuilder::addText       },
         {QStringLiteral("region"),   &TreeBuilder::addText       },
+        {QStringLiteral("frame"),    &TreeBuilder::addFrame      },
         {QStringLiteral("crystal"),  &TreeBuilder::addCrystal    },
         {QStringLiteral("wire"),     &TreeBuilder::addWire       },
         {QStringLiteral("chain"),    &TreeBuilder::addChain      },
@@ -46,8 +86,11 @@ void TreeBuilder::add(const Statement& statement)
     const auto handler = handlers().constFind(statement.keyword);
     if (handler == handlers().constEnd())
         throw TreeError(QStringLiteral("%1 is no keyword").arg(statement.keyword));
-    if (counts(statement))
-        (this->**handler)(statement);
+    if (!counts(statement))
+        return;
+    m_anchors.define(QStringLiteral("left"), statement.corner.x());
+    m_anchors.define(QStringLiteral("top"), statement.corner.y());
+    (this->**handler)(statement);
 }
 
 bool TreeBuilder::counts(const Statement& statement) const
@@ -96,6 +139,13 @@ void TreeBuilder::addLet(const Statement& statement)
     m_anchors.define(statement.words[0].text, m_anchors.coordinate(value.mid(2), *axis));
 }
 
+void TreeBuilder::addSteps(const Statement& statement)
+{
+    if (statement.name.isEmpty() || m_steps.contains(statement.name))
+        throw TreeError(QStringLiteral("steps take a name of their own"));
+    m_steps.insert(statement.name, statement.words);
+}
+
 void TreeBuilder::addRoom(const Statement& statement)
 {
     needWords(statement, 2);
@@ -140,12 +190,13 @@ Drawing buildDrawing(const std::vector<Statement>& statements, PageLayout& page,
         if (control.empty)
             builder.reserve(control.name, fullValue);
     }
-    for (const Statement& statement : statements) {
-        try {
-            builder.add(statement);
-        } catch (const TreeError& error) {
-            problems.push_back({statement.source, error.message()});
-        }
-    }
+    std::vector<Statement> wires;
+    for (const Statement& statement : statements)
+        if (isWired(statement))
+            wires.push_back(statement);
+        else if (const std::optional<QString> fault = faultOf(builder, statement))
+            problems.push_back({statement.source, *fault});
+    drawWires(builder, wires, problems);
+    builder.shapeMuxes();
     return drawing;
 }

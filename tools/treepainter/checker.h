@@ -13,6 +13,8 @@ struct Block
     QStringList owners; ///< names by which a wire or figure may be joined to it
     SourceLine source;
     bool field = false;
+    bool label = false;
+    bool mux = false;
 };
 
 /// The faults of a drawing on a page in one state.
@@ -23,6 +25,9 @@ public:
 
     void checkPage();
     void checkFigures();
+    /// What the eye finds uneven: a nose off its middle, lines between pixels, blocks that stand too close to
+    /// each other or read as one.
+    void checkGrid();
     void checkWires();
     void checkComplete();
 
@@ -42,7 +47,12 @@ private:
     void checkEnds(const Wire& wire);
     void checkEnd(const Wire& wire, const QString& name, const Segment& piece, const QPointF& end);
     void checkBesides(const Wire& one, const Wire& other);
+    void checkNose(const Mux& mux);
+    void checkTitles(const Mux& mux);
+    void checkGutter(const Tag& tag);
+    void checkPixels(const SourceLine& source, const QString& name, const QRectF& lines);
     void checkRow(const Block& block);
+    bool isFlagged(const Wire& wire) const;
 
     const Drawing& m_drawing;
     const PageLayout& m_page;

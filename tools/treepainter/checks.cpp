@@ -8,12 +8,19 @@
 
 namespace {
 
+// Pixels between the white ground of a label and the lines of a figure.
+constexpr double labelRoom = 2;
+
 std::vector<Block> controlBlocks(const PageLayout& page)
 {
     std::vector<Block> blocks;
     for (const PlacedControl& control : page.controls)
-        blocks.push_back(
-            {control.name, control.rect, {control.name}, {}, control.kind == ControlKind::Field});
+        blocks.push_back({control.name,
+                          control.rect,
+                          {control.name},
+                          {},
+                          control.kind == ControlKind::Field,
+                          control.kind == ControlKind::Label});
     return blocks;
 }
 
@@ -21,8 +28,8 @@ std::vector<Block> figureBlocks(const Drawing& drawing)
 {
     std::vector<Block> blocks;
     for (const Mux& mux : drawing.muxes)
-        blocks.push_back(
-            {QLatin1String("mux ") + mux.name, mux.rect, mux.radios + QStringList{mux.name}, mux.source});
+        blocks.push_back({QLatin1String("mux ") + mux.name, mux.rect, mux.radios + QStringList{mux.name},
+                          mux.source, false, false, true});
     for (const Box& box : drawing.boxes)
         blocks.push_back({QLatin1String("box ") + box.name, box.rect, {box.name}, box.source});
     for (const Pad& pad : drawing.pads)
@@ -122,8 +129,14 @@ void Checker::checkFigures()
         if (!picture.contains(figure->rect))
             tell(figure->source, QStringLiteral("%1 reaches out of the picture").arg(figure->name));
         const auto check = [&](const Block& other) {
-            if (overlap(figure->rect, other.rect) && !figure->owners.contains(other.name))
+            if (figure->owners.contains(other.name))
+                return;
+            if (overlap(figure->rect, other.rect))
                 tell(figure->source, QStringLiteral("%1 crosses %2").arg(figure->name, other.name),
+                     figure->owners, other.owners);
+            else if (figure->mux && other.label && overlap(grown(figure->rect, labelRoom), other.rect))
+                tell(figure->source,
+                     QStringLiteral("%1 stands too close to %2").arg(other.name, figure->name),
                      figure->owners, other.owners);
         };
         std::for_each(m_controls.begin(), m_controls.end(), check);
@@ -155,6 +168,7 @@ void checkDrawing(const Drawing& drawing, const std::vector<PageLayout>& states,
         Checker checker(drawing, page, tree);
         checker.checkPage();
         checker.checkFigures();
+        checker.checkGrid();
         checker.checkWires();
         checker.checkComplete();
         collector.add(checker.problems(), state.state);

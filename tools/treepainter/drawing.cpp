@@ -41,6 +41,11 @@ std::optional<QRectF> Drawing::rectOf(const QString& name) const
     return std::nullopt;
 }
 
+QRectF lineOf(const Tag& tag)
+{
+    return tag.rect.adjusted(0.5, 0.5, -0.5, -0.5);
+}
+
 QRectF Segment::bounds() const
 {
     return {QPointF(std::min(from.x(), to.x()), std::min(from.y(), to.y())),

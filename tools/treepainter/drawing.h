@@ -70,6 +70,9 @@ struct Tag
     bool open = false; ///< without an edge behind the text, where something else follows at once
 };
 
+/// Where the frame of a flag runs: just inside of its rectangle.
+QRectF lineOf(const Tag& tag);
+
 /// A crystal between the pins of an oscillator, with the leads that join them.
 struct Crystal
 {
@@ -82,8 +85,9 @@ struct Crystal
 enum class Style
 {
     Plain,
-    Bus,   ///< the name of a bus bar
-    Region ///< the quiet title of a part of the picture
+    Bus,    ///< the name of a bus bar
+    Region, ///< the quiet title of a part of the picture
+    Frame   ///< the quiet title in the line of a frame
 };
 
 /// A text on the picture.
@@ -127,8 +131,16 @@ struct Allowance
     QString other;
 };
 
+/// A quiet line around what belongs together. Wires pass it.
+struct Frame
+{
+    SourceLine source;
+    QRectF rect;
+};
+
 struct Drawing
 {
+    std::vector<Frame> frames;
     std::vector<Mux> muxes;
     std::vector<Box> boxes;
     std::vector<Pad> pads;

@@ -1,23 +1,26 @@
 #include "builder.h"
 #include "treebuilder.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
 // Pixels. A multiplexer reaches from its radio buttons this far.
-constexpr double muxBeforeRadios = 7;
+constexpr double muxBeforeRadios = 4;
 constexpr double muxBehindRadios = 11;
 constexpr double muxAtEnds = 11;
 constexpr double muxSlope = 12;
 // Between a multiplexer and its title.
-constexpr double titleGap = 4;
+constexpr double titleGap = 5;
 // A title further away belongs to something else.
 constexpr double titleReach = 60;
 
 constexpr double boxHeight = 20;
 constexpr double boxTextMargin = 6;
 constexpr double padSize = 10;
+constexpr double frameTitleRight = 8;
+constexpr double frameTitleMargin = 3;
 
 // The leads of a crystal end so far from the corners of their oscillator.
 constexpr double leadInset = 4;
@@ -36,19 +39,30 @@ QRectF framed(const QString& text, const QPointF& middle)
     return around(middle, 2 * std::ceil(textWidth / 2 + boxTextMargin), boxHeight);
 }
 
-/// Pulls the shape up or down to its title, wherever the title stands.
-void reachTitle(QRectF& mux, const QRectF& title)
+/// Makes the shape even about the level of its nose and as high as its title lets it; where the title stands
+/// too close for that, it reaches up or down to it.
+void balance(QRectF& mux, double nose, const std::optional<QRectF>& title)
 {
-    const double above = mux.top() - title.bottom();
-    const double below = title.top() - mux.bottom();
-    if (std::max(above, below) < 0 || std::max(above, below) > titleReach)
-        throw TreeError(QStringLiteral("the title stands neither above nor below its multiplexer"));
-    above > below ? mux.setTop(title.bottom() + titleGap) : mux.setBottom(title.top() - titleGap);
+    const double half = std::max(nose - mux.top(), mux.bottom() - nose);
+    if (!title) {
+        mux.setTop(nose - half);
+        mux.setBottom(nose + half);
+        return;
+    }
+    const bool above = title->bottom() <= mux.top();
+    const double reach = (above ? nose - title->bottom() : title->top() - nose) - titleGap;
+    if (reach >= half) {
+        mux.setTop(nose - reach);
+        mux.setBottom(nose + reach);
+    } else {
+        above ? mux.setTop(nose - reach) : mux.setBottom(nose + reach);
+    }
 }
 
-/// A trapezoid that fills the rectangle, short at the nose.
-QPolygonF muxOutline(const QRectF& rect, Side nose)
+/// A trapezoid that fills the rectangle, short at the nose. Its lines lie on whole pixels.
+QPolygonF muxOutline(const QRectF& whole, Side nose)
 {
+    const QRectF rect = whole.adjusted(0.5, 0.5, -0.5, -0.5);
     const double slope = muxSlope;
     if (nose == Side::Left)
         return {
@@ -125,10 +139,49 @@ void TreeBuilder::placeMux(Mux mux)
         mux.rect.adjust(-muxBehindRadios, -muxAtEnds, muxBeforeRadios, muxAtEnds);
     else
         mux.rect.adjust(-muxBeforeRadios, -muxAtEnds, muxBehindRadios, muxAtEnds);
-    if (!mux.title.isEmpty())
-        reachTitle(mux.rect, control(mux.title).rect);
-    mux.outline = muxOutline(mux.rect, mux.nose);
+    if (!mux.title.isEmpty()) {
+        const QRectF title = control(mux.title).rect;
+        const double distance = std::max(mux.rect.top() - title.bottom(), title.top() - mux.rect.bottom());
+        if (distance < -muxAtEnds || distance > titleReach)
+            throw TreeError(QStringLiteral("the title stands neither above nor below its multiplexer"));
+    }
     m_drawing.muxes.push_back(mux);
+}
+
+void TreeBuilder::shapeMuxes()
+{
+    for (Mux& mux : m_drawing.muxes) {
+        const auto nose = std::find_if(m_drawing.wires.begin(), m_drawing.wires.end(),
+                                       [&mux](const Wire& wire) { return wire.from == mux.name; });
+        const double level =
+            nose != m_drawing.wires.end() ? nose->points.first().y() : onPixel(mux.rect.center().y());
+        balance(mux.rect, level,
+                mux.title.isEmpty() ? std::nullopt : std::make_optional(control(mux.title).rect));
+        mux.outline = muxOutline(mux.rect, mux.nose);
+    }
+}
+
+void TreeBuilder::addFrame(const Statement& statement)
+{
+    needWords(statement, 5);
+    if (!statement.words.first().quoted)
+        throw TreeError(QStringLiteral("frame takes its title and the places of its sides"));
+    const auto side = [&](int word, Qt::Orientation axis) {
+        return m_anchors.coordinate(statement.words[word].text, axis);
+    };
+    const QRectF rect(QPointF(side(1, Qt::Horizontal), side(2, Qt::Vertical)),
+                      QPointF(side(3, Qt::Horizontal), side(4, Qt::Vertical)));
+    const QString title = statement.words.first().text;
+    m_drawing.frames.push_back({statement.source, rect});
+    // The title interrupts the upper line.
+    const QSizeF extent = extentOf(title, captionFont(Style::Frame));
+    const double width = 2 * std::ceil(extent.width() / 2 + frameTitleMargin);
+    m_drawing.captions.push_back({
+        statement.source,
+        {rect.left() + frameTitleRight, rect.top() - std::ceil(extent.height() / 2), width, extent.height()},
+        title,
+        Style::Frame
+    });
 }
 
 void TreeBuilder::addBox(const Statement& statement)
@@ -153,8 +206,9 @@ void TreeBuilder::addTag(const Statement& statement)
     const Side tip = leftOrRight(statement.words[0].text, QStringLiteral("the tip of a tag"));
     const QPointF middle = point(statement);
     const QString text = statement.words[3].text;
-    m_drawing.tags.push_back(
-        {statement.source, statement.name, framed(text, middle), tip, middle.y(), text, {}});
+    // Its edges lie between pixels, like those of the flags around labels.
+    const QRectF rect = framed(text, middle).adjusted(-0.5, -0.5, 0.5, 0.5);
+    m_drawing.tags.push_back({statement.source, statement.name, rect, tip, middle.y(), text, {}});
 }
 
 void TreeBuilder::addText(const Statement& statement)

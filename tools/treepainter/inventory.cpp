@@ -143,11 +143,11 @@ QString inventoryOf(ClockTreePage& page)
 {
     const PageDescription& description = page.description();
     return QStringLiteral("series %1\npicture %2, %3 by %4\nstem %5\n\n")
-               .arg(seriesName(description.series), QLatin1String(description.picture))
+               .arg(seriesName(description.series), description.pictureName())
                .arg(description.pictureSize.width())
                .arg(description.pictureSize.height())
-               .arg(QLatin1String(description.stem)) +
+               .arg(description.stem()) +
            controlsOf(page) + QLatin1Char('\n') + limitsOf(description) + QLatin1Char('\n') +
            startDesign(page) + QLatin1String("\n\nread in the order: ") +
-           QLatin1String(description.readingOrder) + QLatin1Char('\n');
+           page.readingOrder().join(QLatin1Char(' ')) + QLatin1Char('\n');
 }

@@ -3,6 +3,7 @@
 #include "inventory.h"
 #include "picture.h"
 #include "review.h"
+#include "seriestree.h"
 
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
@@ -64,7 +65,7 @@ void list(const std::vector<PageLayout>& states)
 
 struct Task
 {
-    QString tree;
+    QString pages; ///< the folder with the texts of the parts
     QString output;
     QString review; ///< base of the pictures of the page; empty for none
     bool places = false;
@@ -77,11 +78,12 @@ int paint(ClockTreePage& page, const Task& task)
         list(states);
     PageLayout all = together(states);
     Problems problems;
-    const Drawing drawing = buildDrawing(readTree(task.tree, problems), all, problems);
-    checkDrawing(drawing, states, QFileInfo(task.tree).fileName(), problems);
+    const PageDescription& series = page.description();
+    const Drawing drawing = buildDrawing(treeOf(series, task.pages, problems), all, problems);
+    checkDrawing(drawing, states, series.word(), problems);
     for (const QString& name : page.unusedPlaces())
         problems.push_back({
-            {QFileInfo(task.tree).fileName(), 0},
+            {series.word(), 0},
             QStringLiteral("%1 has a place, and no routine makes it").arg(name)
         });
     for (const Problem& problem : problems)
@@ -131,7 +133,9 @@ int main(int argc, char* argv[])
     arguments.addHelpOption();
     arguments.addPositionalArgument(QStringLiteral("series"),
                                     QStringLiteral("The series word, such as G110."));
-    arguments.addPositionalArgument(QStringLiteral("tree"), QStringLiteral("The text of the tree."));
+    arguments.addPositionalArgument(
+        QStringLiteral("pages"),
+        QStringLiteral("The folder of the pages, with the texts of the trees' parts."));
     arguments.addPositionalArgument(QStringLiteral("output"),
                                     QStringLiteral("The bitmap to write, and beside it its @2x."));
     const QCommandLineOption review(
@@ -143,7 +147,7 @@ int main(int argc, char* argv[])
                                     QStringLiteral("Also list the page's controls with their places."));
     const QCommandLineOption inventory(
         QStringLiteral("list"),
-        QStringLiteral("Only print what the page of the series holds; takes neither tree nor output."));
+        QStringLiteral("Only print what the page of the series holds; takes neither pages nor output."));
     arguments.addOptions({review, places, inventory});
     arguments.process(application);
     const QStringList files = arguments.positionalArguments();

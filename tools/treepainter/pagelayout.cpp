@@ -1,6 +1,7 @@
 #include "pagelayout.h"
 
 #include "pages/ClockTreePage.h"
+#include "pages/description/outputs.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -57,10 +58,10 @@ QString busOf(ClockSource clock)
 /// Tells controls of the output column what feeds them.
 void addBus(const ClockTreePage& page, PlacedControl& control)
 {
-    for (const OutputRow& row : page.description().outputs.rows) {
-        if (control.name != outputEdit(row))
+    for (const OutputRow& row : page.description().outputRows) {
+        if (control.name != row.edit)
             continue;
-        const OutputEntry& entry = controlcatalogue::output(control.name);
+        const OutputEntry& entry = outputEntry(control.name);
         control.bus = busOf(entry.source);
         control.divided = entry.divisor != 1.0;
     }

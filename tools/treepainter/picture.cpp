@@ -155,6 +155,13 @@ void paintCrystal(QPainter& painter, const Crystal& crystal)
     painter.drawRect(QRectF(crystal.middle - corner, crystal.middle + corner));
 }
 
+void paintFrame(QPainter& painter, const Frame& frame)
+{
+    painter.setPen(QPen(regionInk, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(frame.rect.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+}
+
 void paintMux(QPainter& painter, const Mux& mux)
 {
     painter.setPen(QPen(muxFrame, 1));
@@ -182,10 +189,10 @@ void paintPad(QPainter& painter, const Pad& pad)
     painter.drawLine(cross.topRight(), cross.bottomLeft());
 }
 
-/// A flag with its tip at the level of its wire. The frame lies just inside of the rectangle.
+/// A flag with its tip at the level of its wire.
 void paintTag(QPainter& painter, const Tag& tag)
 {
-    const QRectF rect = tag.rect.adjusted(0.5, 0.5, -0.5, -0.5);
+    const QRectF rect = lineOf(tag);
     QPolygonF outline;
     if (tag.tip == Side::Left)
         outline << rect.topRight() << rect.topLeft() + QPointF(tagTip, 0) << QPointF(rect.left(), tag.level)
@@ -202,8 +209,11 @@ void paintTag(QPainter& painter, const Tag& tag)
 
 void paintCaption(QPainter& painter, const Caption& caption)
 {
+    const bool quiet = caption.style == Style::Region || caption.style == Style::Frame;
+    if (caption.style == Style::Frame)
+        painter.fillRect(caption.rect, Qt::white);
     painter.setFont(captionFont(caption.style));
-    painter.setPen(caption.style == Style::Region ? regionInk : ink);
+    painter.setPen(quiet ? regionInk : ink);
     painter.drawText(caption.rect, Qt::AlignCenter, caption.text);
 }
 
@@ -267,6 +277,8 @@ QImage paintPicture(const Drawing& drawing, const QSize& size, int scale)
     painter.scale(scale, scale);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(captionFont());
+    for (const Frame& frame : drawing.frames)
+        paintFrame(painter, frame);
     for (const Mux& mux : drawing.muxes)
         paintMux(painter, mux);
     for (const Crystal& crystal : drawing.crystals)

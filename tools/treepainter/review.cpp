@@ -25,6 +25,9 @@ bool grab(ClockTreePage& page, const QImage& picture, int scale, const QString& 
     page.view()->setTransform(QTransform::fromScale(scale, scale));
     page.window()->resize(logical * scale + QSize(margin, margin));
     page.resize(page.window()->size());
+    // All of the picture, and nothing of what lies closed beyond its edges.
+    page.view()->setSceneRect(QRectF(QPointF(), QSizeF(logical)));
+    page.view()->centerOn(QRectF(QPointF(), QSizeF(logical)).center());
     QCoreApplication::processEvents();
     return page.grab().save(path);
 }

@@ -4,6 +4,9 @@
 
 namespace {
 
+// A wire that goes on straight meets its end so far off its middle.
+constexpr double middleRoom = 3;
+
 [[noreturn]] void diagonal(const QPointF& from, const QPointF& to)
 {
     throw TreeError(QStringLiteral("the wire would run diagonally from (%1, %2) to (%3, %4): give it a bend")
@@ -42,9 +45,12 @@ void arrive(QPolygonF& points, Qt::Orientation lastAxis, const Anchor& end)
     const QPointF last = points.last();
     const double here = end.direction == Qt::Horizontal ? last.y() : last.x();
     if (lastAxis == end.direction) {
-        const double level = here >= end.low && here <= end.high ? here : end.level();
+        const bool straight = here >= end.low && here <= end.high && qAbs(here - end.level()) <= middleRoom;
+        const double level = straight ? here : end.level();
         if (level != here)
             points << (end.direction == Qt::Horizontal ? QPointF(last.x(), level) : QPointF(level, last.y()));
+        else
+            points.removeLast(); // the wire goes on straight
         points << end.at(level);
         return;
     }

@@ -12,6 +12,12 @@ namespace {
 constexpr double tagPadding = 3;
 constexpr double tagTip = 7;
 constexpr double tagAbove = 1;
+// Between a flag and the value of its source.
+constexpr double valueGap = 2;
+// Between the middles of a radio button and of its name.
+constexpr double sourceRoom = 3;
+// Of a source off the row on which it could stand.
+constexpr double rowRoom = 2;
 
 // The pad of a clock output stands in one column on every page.
 constexpr double padColumn = 60;
@@ -44,36 +50,78 @@ QStringList TreeBuilder::radiosOf(const QString& stem) const
     return radios;
 }
 
-/// The label of a source has the stem of its radio button. Where there are two, the second shows a value. A
-/// source that stands about as high as the row behind the nose stands on it.
-void TreeBuilder::addSource(const Statement& statement, const QString& radio, double row)
+const PlacedControl& TreeBuilder::nameOf(const QString& radio) const
 {
     const QString stem = radio.chopped(int(qstrlen("RadioButton")));
-    const PlacedControl* label = m_page.find(stem + QLatin1String("QLabel1"));
-    if (!label)
-        label = m_page.find(stem + QLatin1String("QLabel"));
-    if (!label)
-        throw TreeError(QStringLiteral("%1 has no label").arg(radio));
+    for (const char* kind : {"QLabel1", "QLabel"})
+        if (const PlacedControl* label = m_page.find(stem + QLatin1String(kind)))
+            return *label;
+    throw TreeError(QStringLiteral("%1 has no label").arg(radio));
+}
+
+const PlacedControl* TreeBuilder::valueOf(const QString& radio) const
+{
+    const PlacedControl* value =
+        m_page.find(radio.chopped(int(qstrlen("RadioButton"))) + QLatin1String("QLabel"));
+    return value != &nameOf(radio) ? value : nullptr;
+}
+
+/// A source enters at the middle of its name, or on the row behind the nose where that is as good.
+void TreeBuilder::addSource(const Statement& statement, const QString& radio, double row)
+{
+    const PlacedControl& label = nameOf(radio);
     const Mux* mux = m_drawing.mux(radio);
     const Anchor end = m_anchors.anchor(radio + QLatin1String(".in"));
-    const double level = row >= end.low && row <= end.high ? row : end.level();
-    Tag tag = tagAround(label->rect, mux->nose, level);
-    const PlacedControl* value = m_page.find(stem + QLatin1String("QLabel"));
-    if (value && value != label && tag.tip == Side::Left && overlap(tag.rect, value->rect)) {
-        tag.open = true;
-        tag.rect.setRight(value->rect.left());
-    }
+    const double middle = onPixel(label.rect.center().y());
+    const bool onRow = qAbs(row - middle) <= rowRoom && qAbs(row - end.level()) <= rowRoom;
+    const double level = onRow ? row : middle;
+    if (qAbs(level - end.level()) > sourceRoom)
+        throw TreeError(QStringLiteral("%1 stands off its name").arg(radio));
+    Tag tag = tagAround(label.rect, mux->nose, level);
     const bool idle = radio.contains(sourceOfNothing);
     if (!idle) {
         tag.source = statement.source;
-        tag.label = label->name;
+        tag.label = label.name;
         m_drawing.tags.push_back(tag);
     }
     Anchor start;
     start.point = {mux->nose == Side::Left ? tag.rect.left() : tag.rect.right(), level};
-    start.owner = label->name;
-    Wire& wire = append(statement, {}, QVector<QPointF>{start.point, end.at(level)}, start, end);
+    start.owner = label.name;
+    Wire& wire = append(statement,
+                        {
+    },
+                        QVector<QPointF>{start.point, {end.point.x(), level}}, start, end);
     wire.end = idle ? WireEnd::Idle : WireEnd::Arrow;
+}
+
+void TreeBuilder::evenOut(const Mux& mux, std::size_t firstTag)
+{
+    double right = 0;
+    bool open = false;
+    for (std::size_t i = firstTag; i < m_drawing.tags.size(); ++i)
+        right = std::max(right, m_drawing.tags[i].rect.right());
+    std::size_t at = firstTag;
+    for (const QString& radio : mux.radios) {
+        if (radio.contains(sourceOfNothing))
+            continue;
+        QRectF& rect = m_drawing.tags[at++].rect;
+        const PlacedControl* value = valueOf(radio);
+        if (!value) {
+            rect.setRight(right);
+            continue;
+        }
+        // Up to the value; a name that reaches into its value leaves no flag of the selector an end.
+        open = open || nameOf(radio).rect.right() > value->rect.left() - valueGap;
+        rect.setRight(value->rect.left() - valueGap);
+    }
+    for (std::size_t i = firstTag; i < m_drawing.tags.size(); ++i) {
+        Tag& tag = m_drawing.tags[i];
+        tag.open = open;
+        if (tag.tip == Side::Right)
+            for (Wire& wire : m_drawing.wires)
+                if (wire.from == tag.label)
+                    wire.points.first().setX(tag.rect.right());
+    }
 }
 
 void TreeBuilder::addSelector(const Statement& statement, Mux mux, const QStringList& fields)
@@ -87,8 +135,10 @@ void TreeBuilder::addSelector(const Statement& statement, Mux mux, const QString
         row.words.append({field, false});
     const Chain chain = chainOf(row, m_anchors);
     joinInRow(chain, row);
+    const std::size_t firstTag = m_drawing.tags.size();
     for (const QString& radio : mux.radios)
         addSource(statement, radio, chain.row);
+    evenOut(mux, firstTag);
 }
 
 void TreeBuilder::addClockOutput(const Statement& statement)

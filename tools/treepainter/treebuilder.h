@@ -15,6 +15,8 @@ public:
     void add(const Statement& statement);
     /// Keeps the room of a text free at a label that is narrower now.
     void reserve(const QString& label, const QString& text);
+    /// Gives all multiplexers their shapes, once the wires that leave them are there.
+    void shapeMuxes();
 
 private:
     using Handler = void (TreeBuilder::*)(const Statement&);
@@ -23,12 +25,14 @@ private:
     void addAllowance(const Statement& statement);
     void addLet(const Statement& statement);
     void addRoom(const Statement& statement);
+    void addSteps(const Statement& statement);
 
     void addMux(const Statement& statement);
     void addBox(const Statement& statement);
     void addPad(const Statement& statement);
     void addTag(const Statement& statement);
     void addText(const Statement& statement);
+    void addFrame(const Statement& statement);
     void addCrystal(const Statement& statement);
 
     void addWire(const Statement& statement);
@@ -56,11 +60,17 @@ private:
     /// source.
     void addSelector(const Statement& statement, Mux mux, const QStringList& fields);
     void addSource(const Statement& statement, const QString& radio, double row);
+    /// Gives the flags of the multiplexer's sources one width, or lets all of them end open.
+    void evenOut(const Mux& mux, std::size_t firstTag);
+    /// The label that names the source of a radio button, and the one that shows its value, if there is one.
+    const PlacedControl& nameOf(const QString& radio) const;
+    const PlacedControl* valueOf(const QString& radio) const;
     QStringList radiosOf(const QString& stem) const;
 
     PageLayout& m_page;
     Drawing& m_drawing;
     Anchors m_anchors;
+    QHash<QString, QVector<Word>> m_steps; ///< of rows, by name
 };
 
 /// Throws unless the statement has so many words.

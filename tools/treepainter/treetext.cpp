@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int deepestInclude = 8;
-
 /// Cuts a line at its blanks; a text in quotes is one word, and # begins a comment outside of quotes.
 QVector<Word> wordsOf(const QString& line)
 {
@@ -49,50 +47,6 @@ Statement statementOf(QVector<Word> words, const SourceLine& source)
     return statement;
 }
 
-std::vector<Statement> readNested(const QString& path, Problems& problems, int depth);
-
-/// Adds the statements of the included file in place of the include line.
-void include(const Statement& line, const QString& folder, std::vector<Statement>& all, Problems& problems,
-             int depth)
-{
-    if (line.words.size() != 1 || depth == deepestInclude) {
-        problems.push_back({line.source, QStringLiteral("include takes one file, and no file itself again")});
-        return;
-    }
-    const QString name = line.words.first().text;
-    const QString path = folder + QLatin1Char('/') + name;
-    if (!QFileInfo(path).isReadable()) {
-        problems.push_back({line.source, QStringLiteral("there is no tree %1").arg(name)});
-        return;
-    }
-    for (Statement& statement : readNested(path, problems, depth + 1)) {
-        statement.conditions = line.conditions + statement.conditions;
-        all.push_back(std::move(statement));
-    }
-}
-
-std::vector<Statement> readNested(const QString& path, Problems& problems, int depth)
-{
-    const QFileInfo info(path);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        problems.push_back({
-            {info.fileName(), 0},
-            file.errorString()
-        });
-        return {};
-    }
-    std::vector<Statement> all;
-    const QString text = QString::fromUtf8(file.readAll());
-    for (Statement& statement : parseTree(text, info.fileName(), problems)) {
-        if (statement.keyword == QLatin1String("include"))
-            include(statement, info.path(), all, problems, depth);
-        else
-            all.push_back(std::move(statement));
-    }
-    return all;
-}
-
 } // namespace
 
 QString Problem::text() const
@@ -121,5 +75,14 @@ std::vector<Statement> parseTree(const QString& text, const QString& file, Probl
 
 std::vector<Statement> readTree(const QString& path, Problems& problems)
 {
-    return readNested(path, problems, 0);
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        problems.push_back({
+            {info.fileName(), 0},
+            file.errorString()
+        });
+        return {};
+    }
+    return parseTree(QString::fromUtf8(file.readAll()), info.fileName(), problems);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointF>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -46,11 +47,12 @@ struct Statement
     QVector<Word> words;
     /// The line counts on pages with these controls; "!" before a name means pages without it.
     QStringList conditions = {};
+    /// Where the part stands whose text it is, picture pixels: "left" and "top" in its words.
+    QPointF corner = {};
 };
 
 /// The statements of a tree's text; blank lines and comments give none.
 std::vector<Statement> parseTree(const QString& text, const QString& file, Problems& problems);
 
-/// The statements of a file, those of the files it includes in the place of each include line; they take on
-/// its conditions. Included files stand in the same folder.
+/// The statements of a file.
 std::vector<Statement> readTree(const QString& path, Problems& problems);

@@ -161,11 +161,18 @@ void Checker::checkBesides(const Wire& one, const Wire& other)
     }
 }
 
+/// Whether the wire comes from a flag, which stands where its name does.
+bool Checker::isFlagged(const Wire& wire) const
+{
+    return std::any_of(m_drawing.tags.begin(), m_drawing.tags.end(),
+                       [&wire](const Tag& tag) { return !tag.label.isEmpty() && tag.label == wire.from; });
+}
+
 /// A row that goes on behind a field or figure goes on at its level, or visibly elsewhere.
 void Checker::checkRow(const Block& block)
 {
     for (const Wire& in : m_drawing.wires) {
-        if (!block.owners.contains(in.to) || !segmentsOf(in.points).back().isHorizontal())
+        if (!block.owners.contains(in.to) || !segmentsOf(in.points).back().isHorizontal() || isFlagged(in))
             continue;
         for (const Wire& out : m_drawing.wires) {
             if (!block.owners.contains(out.from) || !segmentsOf(out.points).front().isHorizontal())

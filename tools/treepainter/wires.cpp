@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -15,6 +16,21 @@ constexpr double busNameGap = 6;
 bool isBehind(const Word& word)
 {
     return !word.quoted && word.text == QLatin1String("behind");
+}
+
+/// The row with the named steps in place of their name; the fields that may cover it go to its end.
+Statement withSteps(Statement row, const QHash<QString, QVector<Word>>& steps)
+{
+    if (row.words.isEmpty() || !steps.contains(row.words.first().text))
+        return row;
+    const QVector<Word> named = steps.value(row.words.takeFirst().text);
+    const auto cover = std::find_if(named.begin(), named.end(), isBehind);
+    QVector<Word> words;
+    std::copy(named.begin(), cover, std::back_inserter(words));
+    words += row.words;
+    std::copy(cover, named.end(), std::back_inserter(words));
+    row.words = words;
+    return row;
 }
 
 } // namespace
@@ -70,7 +86,7 @@ QStringList TreeBuilder::coversOf(const Wire& wire, const QStringList& fields) c
 
 void TreeBuilder::addChain(const Statement& statement)
 {
-    joinInRow(chainOf(statement, m_anchors), statement);
+    joinInRow(chainOf(withSteps(statement, m_steps), m_anchors), statement);
 }
 
 void TreeBuilder::joinInRow(const Chain& chain, const Statement& statement)

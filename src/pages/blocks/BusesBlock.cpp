@@ -14,7 +14,7 @@ QString multiplierText(int multiplier)
 BusesBlock::BusesBlock(ClockTree& tree) : ClockBlock(tree)
 {
     addControls("New_totmrmultiply", [this] { New_totmrmultiply(); });
-    if (description().timerHalves)
+    if (description().timerHalves())
         addControls("New_totmrdivide", [this] { New_totmrdivide(); });
 }
 
@@ -32,7 +32,7 @@ void BusesBlock::New_totmrmultiply()
         model().Set_APB1TMR_MUL(static_cast<int>(multiplier));
         model().Set_APB2TMR_MUL(static_cast<int>(multiplier));
     };
-    addSetting("tmrmultiply", setting);
+    addSetting(QStringLiteral("tmrmultiply"), setting);
 }
 
 void BusesBlock::New_totmrdivide()

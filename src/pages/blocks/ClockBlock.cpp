@@ -75,7 +75,7 @@ void ClockBlock::addControls(const char* routine, std::function<void()> make)
     m_tree.addControls(routine, std::move(make));
 }
 
-void ClockBlock::addSetting(const char* name, Setting setting)
+void ClockBlock::addSetting(const QString& name, Setting setting)
 {
     m_tree.addSetting(name, std::move(setting));
 }

@@ -57,7 +57,7 @@ protected:
 
     /// Registers the routine that makes some of the block's controls; all routines run in one order.
     void addControls(const char* routine, std::function<void()> make);
-    void addSetting(const char* name, Setting setting);
+    void addSetting(const QString& name, Setting setting);
 
     /// Hides a control that is out of use and moves it down behind the others, so that it takes no clicks.
     /// down: pixels from its place.

@@ -23,19 +23,14 @@ ClockOutputBlock::ClockOutputBlock(ClockTree& tree, const ClockOutput& output)
     addControls(routine.constData(), [this] { New_clockout(); });
 }
 
-QString ClockOutputBlock::member(const char* rest) const
-{
-    return QLatin1String("m_") + QLatin1String(m_output.stem) + QLatin1String(rest);
-}
-
 void ClockOutputBlock::New_clockoutpinselect()
 {
     QStringList pins{QStringLiteral("none")};
     for (const PinChoice& pin : m_output.pins)
         pins << QLatin1String(pin.text);
-    m_pin = combo(member("pin_ComboBox"), pins);
-    label(member("pin_Label"));
-    m_pinValue = label(member("_Value_QLabel"));
+    m_pin = combo(m_output.member("pin_ComboBox"), pins);
+    label(m_output.member("pin_Label"));
+    m_pinValue = label(m_output.member("_Value_QLabel"));
     ZN64MCUPLL::SetLabelColor(m_pinValue, Qt::darkGreen);
     Setting setting = settings::whole(
         model(), m_output.pinField, [this](double number) { showPinOf(static_cast<int>(number)); },
@@ -45,7 +40,7 @@ void ClockOutputBlock::New_clockoutpinselect()
         m_pin->setCurrentIndex(static_cast<int>(none));
         m_output.pinField.set(model(), none);
     };
-    addSetting(m_output.pinSetting, setting);
+    addSetting(QLatin1String(m_output.pinSetting), setting);
 }
 
 void ClockOutputBlock::showPinOf(int number)
@@ -63,23 +58,22 @@ void ClockOutputBlock::showPinOf(int number)
 
 void ClockOutputBlock::New_clockout()
 {
-    QButtonGroup* group = buttonGroup(member("_ButtonGroup"));
+    QButtonGroup* group = buttonGroup(m_output.member("_ButtonGroup"));
     for (const ClockOutputRow& source : m_output.rows) {
         m_rows.push_back(makeRow(source, group));
         m_choices.push_back({source.value, m_rows.back().radio});
     }
-    m_title = label(member("_QLabel"));
-    addSetting(m_output.setting,
+    m_title = label(m_output.member("_QLabel"));
+    addSetting(QLatin1String(m_output.setting),
                settings::radios(model(), m_output.field, m_choices,
                                 settings::oneOf(valuesOf(m_choices), m_output.rows.front().value)));
 }
 
 ClockOutputBlock::Row ClockOutputBlock::makeRow(const ClockOutputRow& source, QButtonGroup* group) const
 {
-    const QString stem = member("_") + QLatin1String(source.name);
-    QLabel* value = source.source == ClockSource::None ? nullptr : label(stem + QLatin1String("_QLabel"));
-    return {source, radio(stem + QLatin1String("_RadioButton"), group),
-            label(stem + QLatin1String("_QLabel1")), value};
+    QLabel* value = source.source == ClockSource::None ? nullptr : label(m_output.member(source, "QLabel"));
+    return {source, radio(m_output.member(source, "RadioButton"), group),
+            label(m_output.member(source, "QLabel1")), value};
 }
 
 void ClockOutputBlock::ControlsConnectSlots()

@@ -34,7 +34,6 @@ private:
     void New_clockoutpinselect();
     void New_clockout();
     Row makeRow(const ClockOutputRow& source, QButtonGroup* group) const;
-    QString member(const char* rest) const;
     void showPinOf(int number);
     const Row* checkedRow() const;
     bool isOff(const ClockOutputRow& source) const;

@@ -103,5 +103,5 @@ public:
     virtual QWidget* widget() = 0;
 
     virtual void addControls(const char* routine, std::function<void()> make) = 0;
-    virtual void addSetting(const char* name, Setting setting) = 0;
+    virtual void addSetting(const QString& name, Setting setting) = 0;
 };

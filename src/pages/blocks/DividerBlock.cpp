@@ -14,14 +14,12 @@ DividerBlock::DividerBlock(ClockTree& tree, const Divider& divider, std::functio
 
 void DividerBlock::New_divider()
 {
-    const QString stem = QLatin1String(m_divider.control);
-    m_Label = label(stem + QLatin1String("_Label"));
-    labelIfPlaced(stem + QLatin1String("Max_Label"));
+    m_Label = label(m_divider.label());
+    labelIfPlaced(m_divider.limitLabel());
     std::vector<double> items = m_divider.divisors;
     items.resize(items.size() - static_cast<std::size_t>(m_divider.withoutItem));
-    m_ComboBox =
-        combo(stem + QLatin1String("_ComboBox"), divisorItems(items, QLatin1String(m_divider.itemPrefix)));
-    addSetting(m_divider.setting, setting());
+    m_ComboBox = combo(m_divider.box(), divisorItems(items, QLatin1String(m_divider.itemPrefix)));
+    addSetting(QLatin1String(m_divider.setting), setting());
 }
 
 Setting DividerBlock::setting()

@@ -49,14 +49,14 @@ void FlexiblePllBlock::New_pll_ms()
 {
     makeParameter(m_ms, QStringLiteral("m_pllms"));
     m_ms.edit->setValidator(inputlimits::pllMsValidator(tree().widget()));
-    addSetting("pllms", parameterSetting(m_ms));
+    addSetting(QStringLiteral("pllms"), parameterSetting(m_ms));
 }
 
 void FlexiblePllBlock::New_pll_ns()
 {
     makeParameter(m_ns, QStringLiteral("m_pllns"));
     m_ns.edit->setValidator(inputlimits::pllNsValidator(tree().widget()));
-    addSetting("pllns", parameterSetting(m_ns));
+    addSetting(QStringLiteral("pllns"), parameterSetting(m_ns));
 }
 
 void FlexiblePllBlock::makeParameter(Parameter& parameter, const QString& stem)

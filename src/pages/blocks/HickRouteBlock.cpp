@@ -15,7 +15,7 @@ void HickRouteBlock::New_hicktosclk()
         {HICK_TO_SCLK_DIV6,  m_hicktosclk_div6_RadioButton},
         {HICK_TO_SCLK_NODIV, m_hicktosclk_RadioButton     }
     };
-    addSetting("hicktosclk",
+    addSetting(QStringLiteral("hicktosclk"),
                settings::radios(model(), MODEL_FIELD(HICK_TO_SCLK), m_hicktosclkChoices,
                                 settings::oneOf(valuesOf(m_hicktosclkChoices), HICK_TO_SCLK_DIV6)));
 }

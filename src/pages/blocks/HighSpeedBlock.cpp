@@ -24,7 +24,7 @@ void HighSpeedBlock::New_hext()
     m_hext_Out = label(QStringLiteral("m_hext_Out"));
     showPin(m_hext_In, true);
     showPin(m_hext_Out, true);
-    addSetting("hext", hextSetting());
+    addSetting(QStringLiteral("hext"), hextSetting());
 }
 
 Setting HighSpeedBlock::hextSetting()
@@ -46,7 +46,7 @@ void HighSpeedBlock::New_hextbypass()
 {
     m_hextbypass_Label = label(QStringLiteral("m_hextbypass_Label"));
     m_hextbypass_ComboBox = combo(QStringLiteral("m_hextbypass_ComboBox"), switchItems());
-    addSetting("hextbypass",
+    addSetting(QStringLiteral("hextbypass"),
                settings::whole(
                    model(), MODEL_FIELD(Hext_Bypass_Value),
                    [this](double on) { m_hextbypass_ComboBox->setCurrentIndex(static_cast<int>(on)); },

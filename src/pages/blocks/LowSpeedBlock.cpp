@@ -39,7 +39,7 @@ void LowSpeedBlock::New_tortc()
     m_tortc_lineEdit = outputEdit(QStringLiteral("m_tortc_lineEdit"));
     m_tortc_lineEdit->setText(m_lick_lineEdit->text());
     m_tortc_Label = label(QStringLiteral("m_tortc_Label"));
-    addSetting("rtcswitch",
+    addSetting(QStringLiteral("rtcswitch"),
                settings::whole(
                    model(), MODEL_FIELD(ToRTC_Switch),
                    [this](double on) { m_tortc_ComboBox->setCurrentIndex(static_cast<int>(on)); },
@@ -62,7 +62,7 @@ void LowSpeedBlock::New_lextbypass()
 {
     m_lextbypass_Label = label(QStringLiteral("m_lextbypass_Label"));
     m_lextbypass_ComboBox = combo(QStringLiteral("m_lextbypass_ComboBox"), switchItems());
-    addSetting("lextbypass",
+    addSetting(QStringLiteral("lextbypass"),
                settings::whole(
                    model(), MODEL_FIELD(Lext_Bypass_Value),
                    [this](double on) { m_lextbypass_ComboBox->setCurrentIndex(static_cast<int>(on)); },
@@ -82,8 +82,9 @@ void LowSpeedBlock::New_rtcsel()
         {RTCSEL_LEXT, m_rtcsel_lext_RadioButton},
         {RTCSEL_HEXT, m_rtcsel_hext_RadioButton}
     };
-    addSetting("rtcsel", settings::radios(model(), MODEL_FIELD(RTCSEL), m_rtcselChoices,
-                                          settings::oneOf(valuesOf(m_rtcselChoices), RTCSEL_LICK)));
+    addSetting(QStringLiteral("rtcsel"),
+               settings::radios(model(), MODEL_FIELD(RTCSEL), m_rtcselChoices,
+                                settings::oneOf(valuesOf(m_rtcselChoices), RTCSEL_LICK)));
 }
 
 void LowSpeedBlock::ControlsConnectSlots()
@@ -131,7 +132,8 @@ void LowSpeedBlock::UpdateRTCParam()
     } else if (hextSelected()) {
         double hext = 0.0;
         const bool valid = tree().Hext_Value_Valid(hext);
-        const double divisor = description().rtcHextDivisor.value_or(model().Get_RTC_DIV());
+        const double divisor =
+            description().rtcDivider() ? model().Get_RTC_DIV() : description().rtcHextDivisor;
         appearance::setText(m_tortc_lineEdit, valid ? frequencyText(hext * 1000.0 / divisor) : off);
     } else {
         appearance::setText(m_tortc_lineEdit, m_lick_lineEdit->text());

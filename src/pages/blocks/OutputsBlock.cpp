@@ -10,10 +10,8 @@ OutputsBlock::OutputsBlock(ClockTree& tree) : ClockBlock(tree)
 
 void OutputsBlock::New_toperipheral()
 {
-    for (const OutputRow& row : description().outputs.rows) {
-        const QString name = ::outputEdit(row);
-        m_outputs.push_back({outputEdit(name), controlcatalogue::output(name)});
-    }
+    for (const OutputRow& row : description().outputRows)
+        m_outputs.push_back({outputEdit(row.edit), outputEntry(row.edit)});
     for (const ListNames& names : listNames())
         makeList(names);
 }

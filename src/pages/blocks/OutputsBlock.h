@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/blocks/ClockBlock.h"
+#include "pages/description/outputs.h"
 
 /// The column of output frequencies, with the lists of the peripherals on each bus. At most one list is open.
 class OutputsBlock : public ClockBlock

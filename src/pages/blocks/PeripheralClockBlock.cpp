@@ -8,26 +8,23 @@
 PeripheralClockBlock::PeripheralClockBlock(ClockTree& tree, const PeripheralClock& clock)
     : ClockBlock(tree), m_clock(clock)
 {
-    addControls((QByteArray("New_") + clock.sourceSetting).constData(), [this] { New_clocksel(); });
+    addControls(("New_" + clock.sourceSetting().toLatin1()).constData(), [this] { New_clocksel(); });
 }
 
 void PeripheralClockBlock::New_clocksel()
 {
-    const QString selector = QLatin1String("m_") + QLatin1String(m_clock.sourceSetting);
-    const QString stem = QLatin1String(m_clock.stem);
-    m_title = label(selector + QLatin1String("_Label"));
-    QButtonGroup* group = buttonGroup(selector + QLatin1String("_ButtonGroup"));
+    m_title = label(m_clock.titleLabel());
+    QButtonGroup* group = buttonGroup(m_clock.selector() + QLatin1String("_ButtonGroup"));
     for (const PeripheralSource& source : m_clock.sources) {
-        const QString row = selector + QLatin1Char('_') + QLatin1String(source.name);
-        m_names.push_back(label(row + QLatin1String("_QLabel")));
-        m_radios.push_back(radio(row + QLatin1String("_RadioButton"), group));
+        m_names.push_back(label(m_clock.sourceLabel(source)));
+        m_radios.push_back(radio(m_clock.sourceRadio(source), group));
         m_choices.push_back({source.number, m_radios.back()});
     }
-    m_switch = combo(QLatin1String("m_") + stem + QLatin1String("switch_ComboBox"), switchItems());
-    m_result = outputEdit(QLatin1String("m_to") + stem + QLatin1String("_lineEdit"));
-    m_unit = label(QLatin1String("m_to") + stem + QLatin1String("_Label"));
-    addSetting(m_clock.sourceSetting, sourceSetting());
-    addSetting(m_clock.switchSetting,
+    m_switch = combo(m_clock.switchBox(), switchItems());
+    m_result = outputEdit(m_clock.result());
+    m_unit = label(m_clock.unit());
+    addSetting(m_clock.sourceSetting(), sourceSetting());
+    addSetting(m_clock.switchSetting(),
                settings::whole(
                    model(), m_clock.on,
                    [this](double on) { m_switch->setCurrentIndex(static_cast<int>(on)); },
@@ -100,7 +97,7 @@ void PeripheralClockBlock::UpdateResultControls()
         return;
     const PeripheralSource& source = checkedSource();
     const std::optional<ClockReading> clock = frequencyOf(source.shown, model(), tree().hickAtOutputs());
-    const bool red = clockValue(source.limited, model()) > m_clock.limit;
+    const bool red = clockValue(source.limited, model()) > *m_clock.limit;
     ZN64MCUPLL::SetLineEditColor(m_result, red ? Qt::red : Qt::darkGreen);
     appearance::setText(m_result,
                         clock->words ? tree().translated(clock->words) : frequencyText(clock->value));

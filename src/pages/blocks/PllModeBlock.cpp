@@ -25,7 +25,7 @@ void PllModeBlock::New_pll_mode()
         set(mode);
         tree().showPllMode();
     };
-    addSetting("pllmode", setting);
+    addSetting(QStringLiteral("pllmode"), setting);
 }
 
 void PllModeBlock::ControlsConnectSlots()

@@ -17,7 +17,7 @@ void PllMultiplierBlock::New_pll_mult()
     m_pllmult_Label = label(QStringLiteral("m_pllmult_Label"));
     m_pllmult_ComboBox = combo(QStringLiteral("m_pllmult_ComboBox"),
                                divisorItems(listOf(divisors::pllMul), QStringLiteral("  * ")));
-    addSetting("pllmult", multiplierSetting());
+    addSetting(QStringLiteral("pllmult"), multiplierSetting());
 }
 
 Setting PllMultiplierBlock::multiplierSetting()

@@ -4,7 +4,7 @@
 
 PllSourceBlock::PllSourceBlock(ClockTree& tree) : ClockBlock(tree)
 {
-    if (description().pllHextDivider)
+    if (description().pllHextDivider())
         addControls("New_pllhextdiv", [this] { New_pllhextdiv(); });
     addControls("New_pllrcs", [this] { New_pllrcs(); });
 }
@@ -20,7 +20,7 @@ void PllSourceBlock::New_pllhextdiv()
         {PLLHEXT_NODIV, m_pllhext_nodiv_RadioButton},
         {PLLHEXT_DIV,   m_pllhext_div_RadioButton  }
     };
-    addSetting("pllhextdiv",
+    addSetting(QStringLiteral("pllhextdiv"),
                settings::radios(model(), MODEL_FIELD(PLLHEXTDIV), m_pllhextdivChoices, settings::switched()));
 }
 
@@ -35,7 +35,7 @@ void PllSourceBlock::New_pllrcs()
         {PLLRC_HEXT, m_pllrcs_hext_RadioButton},
         {PLLRC_HICK, m_pllrcs_hick_RadioButton}
     };
-    addSetting("pllrcs",
+    addSetting(QStringLiteral("pllrcs"),
                settings::radios(model(), MODEL_FIELD(PLLRC), m_pllrcsChoices, settings::switched()));
 }
 

@@ -32,13 +32,14 @@ void SystemClockBlock::New_sclkselect()
         {SYSCLK_PLL,  m_sclkselect_pll_RadioButton },
         {SYSCLK_HICK, m_sclkselect_hick_RadioButton}
     };
-    addSetting("sclkselect", settings::whole(
-                                 model(), MODEL_FIELD(SYSCLKSelect),
-                                 [this](double value) {
-                                     checkValue(m_sclkselectChoices, value);
-                                     m_sclk_lineEdit->setEnabled(pllSelected());
-                                 },
-                                 settings::oneOf(valuesOf(m_sclkselectChoices), SYSCLK_HEXT)));
+    addSetting(QStringLiteral("sclkselect"),
+               settings::whole(
+                   model(), MODEL_FIELD(SYSCLKSelect),
+                   [this](double value) {
+                       checkValue(m_sclkselectChoices, value);
+                       m_sclk_lineEdit->setEnabled(pllSelected());
+                   },
+                   settings::oneOf(valuesOf(m_sclkselectChoices), SYSCLK_HEXT)));
 }
 
 void SystemClockBlock::New_Result()
@@ -51,7 +52,7 @@ void SystemClockBlock::New_Result()
     m_sclk_lineEdit->setStyleSheet(styles::createdSysclk());
     m_sclk_lineEdit->setValidator(inputlimits::frequencyValidator(tree().widget()));
     labelIfPlaced(QStringLiteral("m_sclkRange_Label"));
-    if (!description().sclkWarnings)
+    if (!description().sclkWarnings())
         return;
     for (const char* name : {"m_sclkWarning1_QLabel", "m_sclkWarning2_QLabel", "m_sclkWarning3_QLabel"}) {
         QLabel* warning = label(QLatin1String(name));

@@ -19,7 +19,7 @@ void UsbBlock::New_tousb()
     m_tousbswitch_ComboBox = combo(QStringLiteral("m_tousbswitch_ComboBox"),
                                    {QStringLiteral("enable"), QStringLiteral("disable")});
     m_usbclock_Label = label(QStringLiteral("m_usbclock_Label"));
-    addSetting("tousbswitch",
+    addSetting(QStringLiteral("tousbswitch"),
                settings::whole(
                    model(), MODEL_FIELD(TO_USB_Switch),
                    [this](double index) { m_tousbswitch_ComboBox->setCurrentIndex(static_cast<int>(index)); },
@@ -36,8 +36,9 @@ void UsbBlock::New_hicktousb()
         {HICK_TO_USB_DISABLE, m_tousb_pll_RadioButton },
         {HICK_TO_USB_ENABLE,  m_tousb_hick_RadioButton}
     };
-    addSetting("hicktousb", settings::radios(model(), MODEL_FIELD(HICK_TO_USB), m_tousbChoices,
-                                             settings::oneOf(valuesOf(m_tousbChoices), HICK_TO_USB_DISABLE)));
+    addSetting(QStringLiteral("hicktousb"),
+               settings::radios(model(), MODEL_FIELD(HICK_TO_USB), m_tousbChoices,
+                                settings::oneOf(valuesOf(m_tousbChoices), HICK_TO_USB_DISABLE)));
     New_tousb();
 }
 
@@ -67,7 +68,7 @@ void UsbBlock::UpdateResultControls()
 
 void UsbBlock::serveNewDemand()
 {
-    if (!description().usb->movesBusyPll || !fromPll()) {
+    if (!description().usbMovesBusyPll || !fromPll()) {
         tree().serveUsb();
         return;
     }
@@ -96,7 +97,7 @@ void UsbBlock::hicktousb_RadioButton_checkSlot(bool)
         return;
     }
     model().Set_USBCLKValue(usbClockMHz);
-    if (description().usb->movesBusyPll)
+    if (description().usbMovesBusyPll)
         tree().UpdateParam_From_ResultCLK();
     else
         tree().UpdateCalculateResult();

@@ -2,6 +2,8 @@
 
 #include "pages/description/modelfield.h"
 
+#include <QString>
+
 #include <functional>
 #include <vector>
 
@@ -42,7 +44,7 @@ enum class DividerFollows
 struct Divider
 {
     const char* routine; ///< "New_hextdiv"
-    const char* control; ///< "m_hextdiv": with _Label and _ComboBox the member names
+    const char* control; ///< "m_hextdiv", what its members begin with
     const char* setting; ///< its name in design files
     ModelField field;
     /// In the order of the box's items. The place of a value is its index.
@@ -57,6 +59,11 @@ struct Divider
     int withoutItem = 0;
     /// Divisors that the box offers but the reader of design files does not take.
     std::vector<double> unread = {};
+
+    // The members.
+    QString label() const { return QLatin1String(control) + QLatin1String("_Label"); }
+    QString limitLabel() const { return QLatin1String(control) + QLatin1String("Max_Label"); }
+    QString box() const { return QLatin1String(control) + QLatin1String("_ComboBox"); }
 };
 
 /// A list of divisors as a table wants it.

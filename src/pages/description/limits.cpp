@@ -9,24 +9,6 @@ const char limits::adc28Comma[] = "The maximum ADC clock is 28 MHz. The currentl
 const char limits::adc80[] = "The maximum ADC clock is 80 MHz. The currently configured ADC clock is wrong.  "
                              "please confirm whether to continue?";
 
-Limits operator+(Limits some, const Limits& others)
-{
-    some.insert(some.end(), others.begin(), others.end());
-    return some;
-}
-
-Limits limits::painted(double sclk, double apb1, double apb2)
-{
-    return {above(ClockSource::Sclk, sclk),      above(ClockSource::Ahb, sclk),
-            above(ClockSource::Apb1Timer, sclk), above(ClockSource::Apb2Timer, sclk),
-            above(ClockSource::Apb1, apb1),      above(ClockSource::Apb2, apb2)};
-}
-
-Limits limits::refused(double sclk, double apb1, double apb2)
-{
-    return {above(ClockSource::Sclk, sclk), above(ClockSource::Apb1, apb1), above(ClockSource::Apb2, apb2)};
-}
-
 Limit limits::above(ClockSource clock, double compared)
 {
     return above(clock, compared, static_cast<int>(compared));

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 /// The highest clock of the ADC where a page limits it, MHz.
@@ -38,16 +39,39 @@ struct Limit
 };
 using Limits = std::vector<Limit>;
 
-/// Both lists, one behind the other.
-Limits operator+(Limits some, const Limits& others);
+/// What a series says of its limits, MHz. The highest system clock is a trait of the series; AHB, the timers
+/// and the PLL's output go by it too.
+struct SeriesLimits
+{
+    double apb1 = 0.0;
+    double apb2 = 0.0;
+    /// Of a typed system clock; some series take any number down to 0.
+    std::optional<double> lowestTyped = 4.0;
+    /// APB3 is painted red above it. Two series paint values in normal colour that generating refuses: what
+    /// the page shows there has always been the bus's own limit, and the code wants the lower one.
+    double paintedApb3 = apb3LimitMHz;
+    /// Whether the PLL's output is painted red, and refused, above the highest system clock.
+    bool pllPainted = true;
+    bool pllRefused = true;
+    /// What saving tells of a refused APB clock where it is not the number compared. Users know the texts so.
+    std::optional<int> apbTold = {};
+    /// Generating looks at APB3 and not at APB2.
+    bool generatingSkipsApb2 = false;
+    /// Saving asks about the ADC with a comma where generating has a full stop: two texts of one question,
+    /// which both stand in the tables of translations.
+    bool adcCommaOnSaving = false;
+    /// Saving and generating ask about an ADC clock above it. The one series with it has no switch for the
+    /// ADC, so that nobody has ever been asked.
+    std::optional<double> askedAdc = {};
+};
+
+struct PageDescription;
 
 namespace limits {
 
-/// Red above: the system clock, AHB and both timers' clocks at sclk, the APB buses at theirs, MHz.
-Limits painted(double sclk, double apb1, double apb2);
+/// Derives the three lists and the range of the typed system clock from what the series says and has.
+void derive(PageDescription& page);
 
-/// Refuses above these numbers, MHz, and shows them: the system clock, then APB1 and APB2.
-Limits refused(double sclk, double apb1, double apb2);
 /// Refuses above the number, and shows it.
 Limit above(ClockSource clock, double compared);
 /// Refuses above one number and shows another.

@@ -1,71 +1,109 @@
 #include "pages/description/peripherals.h"
 
+#include <iterator>
+
 namespace {
 
-PeripheralClock clockOf(const char* stem, const char* title, const char* source, const char* on,
-                        ModelField sourceField, ModelField onField)
+PeripheralClock clockOf(const char* stem, ModelField source, ModelField on)
 {
-    return {stem, title, source, on, sourceField, onField, 0.0, {}};
+    PeripheralClock clock{stem, source, on, QLatin1String(stem) + QLatin1String(" clock sel")};
+    return clock;
+}
+
+template <std::size_t Count>
+PeripheralClock numbered(const PeripheralClock (&clocks)[Count], int number)
+{
+    Q_ASSERT(number >= 1 && number <= static_cast<int>(Count));
+    return clocks[number - 1];
+}
+
+/// A source that is red by itself.
+PeripheralSource source(int number, const char* name, ClockSource clock)
+{
+    return {number, name, clock, clock};
+}
+
+PeripheralClock canOf(PeripheralClock clock, const PeripheralSource& pll)
+{
+    clock.sources = {source(CAN_CLOCK_SOURCE_HEXT, "hext", ClockSource::Hext), pll,
+                     source(CAN_CLOCK_SOURCE_PCLK, "pclk", ClockSource::Apb1)};
+    return clock;
 }
 
 } // namespace
 
-PeripheralClock peripherals::usart1()
+PeripheralClock peripherals::usart(int number, ClockSource bus, int hickNumber, const char* hickName)
 {
-    return clockOf("usart1", "usart1 clock sel", "usart1clocksel", "usart1switch",
-                   MODEL_FIELD(usart1_Clock_Source), MODEL_FIELD(USART1_Switch));
+    PeripheralClock clock = numbered(
+        {
+            clockOf("usart1", MODEL_FIELD(usart1_Clock_Source), MODEL_FIELD(USART1_Switch)),
+            clockOf("usart2", MODEL_FIELD(usart2_Clock_Source), MODEL_FIELD(USART2_Switch)),
+            clockOf("usart3", MODEL_FIELD(usart3_Clock_Source), MODEL_FIELD(USART3_Switch)),
+        },
+        number);
+    clock.sources = {
+        source(USART_CLOCK_SOURCE_PCLK, "pclk", bus),
+        source(USART_CLOCK_SOURCE_SCLK, "sclk", ClockSource::Sclk),
+        {hickNumber,              hickName, ClockSource::Hick},
+        {USART_CLOCK_SOURCE_LEXT, "lext",   ClockSource::Lext}
+    };
+    return clock;
 }
 
-PeripheralClock peripherals::usart2()
+PeripheralClock peripherals::i2c1(int hickNumber, const char* hickName)
 {
-    return clockOf("usart2", "usart2 clock sel", "usart2clocksel", "usart2switch",
-                   MODEL_FIELD(usart2_Clock_Source), MODEL_FIELD(USART2_Switch));
-}
-
-PeripheralClock peripherals::usart3()
-{
-    return clockOf("usart3", "usart3 clock sel", "usart3clocksel", "usart3switch",
-                   MODEL_FIELD(usart3_Clock_Source), MODEL_FIELD(USART3_Switch));
-}
-
-PeripheralClock peripherals::i2c1()
-{
-    return clockOf("i2c1", "i2c1 clock sel", "i2c1clocksel", "i2c1switch", MODEL_FIELD(i2c1_Clock_Source),
-                   MODEL_FIELD(I2C1_Switch));
+    PeripheralClock clock = clockOf("i2c1", MODEL_FIELD(i2c1_Clock_Source), MODEL_FIELD(I2C1_Switch));
+    clock.sources = {
+        source(I2C1_CLOCK_SOURCE_PCLK, "pclk", ClockSource::Apb2),
+        source(I2C1_CLOCK_SOURCE_SCLK, "sclk", ClockSource::Sclk),
+        {hickNumber, hickName, ClockSource::Hick}
+    };
+    return clock;
 }
 
 PeripheralClock peripherals::adc()
 {
-    return clockOf("adc", "pllclk to ADC", "adcclocksel", "adcswitch", MODEL_FIELD(adc_Clock_Source),
-                   MODEL_FIELD(ToADC_Switch));
+    PeripheralClock clock = clockOf("adc", MODEL_FIELD(adc_Clock_Source), MODEL_FIELD(ToADC_Switch));
+    clock.title = QStringLiteral("pllclk to ADC");
+    // Red looks at another clock than the one shown, in both rows: the series' rule, and users rely on it.
+    clock.sources = {
+        {ADC_CLOCK_SOURCE_HCLK,   "hclk",   ClockSource::Ahb, ClockSource::Apb1},
+        {ADC_CLOCK_SOURCE_PLLCLK, "pllclk", ClockSource::Pll, ClockSource::Sclk}
+    };
+    clock.readNumbers = {
+        {ADC_CLOCK_SOURCE_HCLK, ADC_CLOCK_SOURCE_HCLK}
+    };
+    clock.fallback = ADC_CLOCK_SOURCE_PLLCLK;
+    return clock;
 }
 
 PeripheralClock peripherals::i2sf5()
 {
-    return clockOf("i2sf5", "i2sf5 clock sel", "i2sf5clocksel", "i2sf5switch",
-                   MODEL_FIELD(i2sf5_Clock_Source), MODEL_FIELD(I2SF5_Switch));
+    PeripheralClock clock = clockOf("i2sf5", MODEL_FIELD(i2sf5_Clock_Source), MODEL_FIELD(I2SF5_Switch));
+    clock.sources = {
+        source(I2SF5_CLOCK_SOURCE_PCLK, "pllp", ClockSource::Pll),
+        source(I2SF5_CLOCK_SOURCE_SCLK, "sclk", ClockSource::Sclk),
+        {I2SF5_CLOCK_SOURCE_HICK,     "hick",     ClockSource::Hick   },
+        {I2SF5_CLOCK_SOURCE_EXTERNAL, "external", ClockSource::Outside}
+    };
+    return clock;
 }
 
 PeripheralClock peripherals::can()
 {
-    return clockOf("can", "can clock sel", "canclocksel", "canswitch", MODEL_FIELD(can1_Clock_Source),
-                   MODEL_FIELD(CAN1_Switch));
+    // "pll" shows the system clock: these series feed it from the PLL and know the two as one.
+    PeripheralClock clock = canOf(clockOf("can", MODEL_FIELD(can1_Clock_Source), MODEL_FIELD(CAN1_Switch)),
+                                  source(CAN_CLOCK_SOURCE_PLL, "pll", ClockSource::Sclk));
+    clock.start = CAN_CLOCK_SOURCE_PCLK;
+    return clock;
 }
 
-PeripheralClock peripherals::can1()
+PeripheralClock peripherals::canOfThree(int number)
 {
-    return clockOf("can1", "can1 clock sel", "can1clocksel", "can1switch", MODEL_FIELD(can1_Clock_Source),
-                   MODEL_FIELD(CAN1_Switch));
-}
-
-PeripheralClock peripherals::can2()
-{
-    return clockOf("can2", "can2 clock sel", "can2clocksel", "can2switch", MODEL_FIELD(can2_Clock_Source),
-                   MODEL_FIELD(CAN2_Switch));
-}
-
-PeripheralClock peripherals::can3()
-{
-    return clockOf("can3", "can3 clock sel", "can3clocksel", "can3switch", MODEL_FIELD(can3_Clock_Source),
-                   MODEL_FIELD(CAN3_Switch));
+    // "pllu" is red by the system clock and not by the clock shown, which may be higher.
+    return canOf(numbered({clockOf("can1", MODEL_FIELD(can1_Clock_Source), MODEL_FIELD(CAN1_Switch)),
+                           clockOf("can2", MODEL_FIELD(can2_Clock_Source), MODEL_FIELD(CAN2_Switch)),
+                           clockOf("can3", MODEL_FIELD(can3_Clock_Source), MODEL_FIELD(CAN3_Switch))},
+                          number),
+                 {CAN_CLOCK_SOURCE_PLL, "pllu", ClockSource::PllU, ClockSource::Sclk});
 }

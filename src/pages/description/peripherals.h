@@ -2,20 +2,16 @@
 
 #include "pages/description/pagedescription.h"
 
-/// The peripherals whose clocks can be chosen, by their names and fields. A family adds the sources, the
-/// limit and the place.
+/// The peripherals whose clocks can be chosen, with their sources.
 namespace peripherals {
 
-PeripheralClock usart1();
-PeripheralClock usart2();
-PeripheralClock usart3();
-PeripheralClock i2c1();
+/// One of the USARTs 1 to 3 on a bus, with hick as the series gives it: its number and its name.
+PeripheralClock usart(int number, ClockSource bus, int hickNumber, const char* hickName);
+PeripheralClock i2c1(int hickNumber, const char* hickName);
 PeripheralClock adc();
 PeripheralClock i2sf5();
-/// The only CAN of a series, and the first to third of three.
+/// The only CAN of a series, and one of three, which take the PLL's output for USB.
 PeripheralClock can();
-PeripheralClock can1();
-PeripheralClock can2();
-PeripheralClock can3();
+PeripheralClock canOfThree(int number);
 
 } // namespace peripherals

@@ -1,20 +1,34 @@
 #include "pages/series/seriespages.h"
 
-#include "pages/series/families.h"
-#include "pages/series/seriesclasses.h"
+#include "pages/series/ZN64D042PLL.h"
+#include "pages/series/ZN64G110PLL.h"
+#include "pages/series/ZN64G110RPLL.h"
+#include "pages/series/ZN64G114PLL.h"
+#include "pages/series/ZN64G120PLL.h"
+#include "pages/series/ZN64G125PLL.h"
+#include "pages/series/ZN64G130PLL.h"
+#include "pages/series/ZN64G133PLL.h"
+#include "pages/series/ZN64G135PLL.h"
+#include "pages/series/ZN64G142PLL.h"
+#include "pages/series/ZN64G146PLL.h"
+#include "pages/series/ZN64G150PLL.h"
+#include "pages/series/ZN64G152PLL.h"
+#include "pages/series/ZN64G165PLL.h"
+#include "pages/series/ZN64G166PLL.h"
+#include "pages/series/ZN64G167PLL.h"
+#include "pages/series/ZN64G171PLL.h"
+#include "pages/series/ZN64G174PLL.h"
+#include "pages/series/ZN64G190PLL.h"
+#include "pages/series/ZN64H110RPLL.h"
+#include "pages/series/ZN64H133PLL.h"
+#include "pages/series/ZN64P212PLL.h"
+#include "pages/series/ZN64P216PLL.h"
+#include "pages/series/ZN64TQ125PLL.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace {
-
-/// Built at the first page of the series and kept: pages and blocks refer to it.
-template <PageDescription (*describe)()>
-const PageDescription& descriptionBy()
-{
-    static const PageDescription page = complete(describe());
-    return page;
-}
 
 struct SeriesPage
 {
@@ -27,42 +41,6 @@ ClockTreePage* make(QWidget* parent)
 {
     return new Page(parent);
 }
-
-} // namespace
-
-#define CONSTRUCT(word, describe)                                                                            \
-    ZN64##word##PLL::ZN64##word##PLL(QWidget* parent)                                                        \
-        : ClockTreePage(descriptionBy<families::describe>(), parent)                                         \
-    {                                                                                                        \
-        build();                                                                                             \
-    }
-
-CONSTRUCT(G110, g110)
-CONSTRUCT(G110R, g110r)
-CONSTRUCT(G114, g114)
-CONSTRUCT(H110R, h110r)
-CONSTRUCT(G120, g120)
-CONSTRUCT(G125, g125)
-CONSTRUCT(TQ125, tq125)
-CONSTRUCT(G130, g130)
-CONSTRUCT(G135, g135)
-CONSTRUCT(D042, d042)
-CONSTRUCT(G142, g142)
-CONSTRUCT(G146, g146)
-CONSTRUCT(G133, g133)
-CONSTRUCT(H133, h133)
-CONSTRUCT(P212, p212)
-CONSTRUCT(P216, p216)
-CONSTRUCT(G171, g171)
-CONSTRUCT(G174, g174)
-CONSTRUCT(G190, g190)
-CONSTRUCT(G165, g165)
-CONSTRUCT(G166, g166)
-CONSTRUCT(G167, g167)
-CONSTRUCT(G150, g150)
-CONSTRUCT(G152, g152)
-
-namespace {
 
 const SeriesPage pages[] = {
     {ZN64G110,  make<ZN64G110PLL> },
@@ -91,22 +69,11 @@ const SeriesPage pages[] = {
     {ZN64G152,  make<ZN64G152PLL> },
 };
 
-const SeriesPage* find(ZN64MCUSERIALS series)
-{
-    const auto page = std::find_if(std::begin(pages), std::end(pages),
-                                   [series](const SeriesPage& each) { return each.series == series; });
-    return page != std::end(pages) ? page : nullptr;
-}
-
 } // namespace
-
-bool hasSeriesPage(ZN64MCUSERIALS series)
-{
-    return find(series) != nullptr;
-}
 
 ClockTreePage* createSeriesPage(ZN64MCUSERIALS series, QWidget* parent)
 {
-    const SeriesPage* page = find(series);
-    return page ? page->create(parent) : nullptr;
+    const auto page = std::find_if(std::begin(pages), std::end(pages),
+                                   [series](const SeriesPage& each) { return each.series == series; });
+    return page != std::end(pages) ? page->create(parent) : nullptr;
 }

@@ -2,7 +2,5 @@
 
 #include "pages/ClockTreePage.h"
 
-/// Whether the series has a page.
-bool hasSeriesPage(ZN64MCUSERIALS series);
-/// A new page of the series, in its start state; null for a series without a page.
+/// A new page of the series, in its start state; null for a value that is no series.
 ClockTreePage* createSeriesPage(ZN64MCUSERIALS series, QWidget* parent);

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "pages/ClockTreePage.h"
+
+/// The page of the ZN64G190, a sibling of the ZN64G171.
+class ZN64G190PLL : public ClockTreePage
+{
+    Q_OBJECT
+
+public:
+    explicit ZN64G190PLL(QWidget* parent = nullptr);
+
+    /// What sets the series apart.
+    static PageDescription describe();
+};
