@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 
 namespace {
+const char* const endings[] = {"clock.c", "clock.h", "conf.h", "main.c"};
+
 QByteArray templateOf(const QString& stem, const char* ending)
 {
     return contentOf(QStringLiteral(":/image/%1_%2").arg(stem, QLatin1String(ending)));
@@ -117,14 +119,9 @@ private slots:
     void lineEndsAreOfOneKind()
     {
         int withLf = 0;
-        QSet<QString> stems;
-        for (const SeriesTraits& traits : seriesList()) {
-            const QScopedPointer<ClockTreePage> page(createSeriesPage(traits.series, nullptr));
-            stems += QLatin1String(page->description().stem);
-        }
-        QCOMPARE(stems.size(), 17);
-        for (const QString& stem : stems)
-            for (const char* ending : {"clock.c", "clock.h", "conf.h", "main.c"}) {
+        QCOMPARE(stems().size(), 17);
+        for (const QString& stem : stems())
+            for (const char* ending : endings) {
                 const QByteArray text = templateOf(stem, ending);
                 const bool lf = !text.contains('\r');
                 QVERIFY2(lf || text.count('\n') == text.count("\r\n"), qPrintable(stem));
@@ -134,7 +131,39 @@ private slots:
         QCOMPARE(withLf, 9);
     }
 
+    /// The library's own blanks at line ends, which an editor takes away unseen, and no others.
+    void blanksAtLineEnds()
+    {
+        const QString delay =
+            "main.c:     voltage of battery powered domain (2.57V) when the battery powered "_s;
+        const QMap<QString, QString> wanted{
+            {"zn64g133"_s,     delay                                                    },
+            {"zn64h133"_s,     delay                                                    },
+            {"zn64g150_152"_s, "clock.c: "_s                                            },
+            {"zn64g171_174"_s, "clock.c:  "_s                                           },
+            {"zn64g190"_s,     "clock.c:  "_s                                           }
+        };
+        for (const QString& stem : stems()) {
+            QStringList found;
+            for (const char* ending : endings)
+                for (const QString& line : QString::fromUtf8(templateOf(stem, ending)).remove(u'\r').split(u'\n'))
+                    if (line.endsWith(u' '))
+                        found += QLatin1String(ending) + u':' + line;
+            QVERIFY2(found.join(u'\n') == wanted.value(stem), qPrintable(stem + u'\n' + found.join(u'\n')));
+        }
+    }
+
 private:
+    static QSet<QString> stems()
+    {
+        QSet<QString> all;
+        for (const SeriesTraits& traits : seriesList()) {
+            const QScopedPointer<ClockTreePage> page(createSeriesPage(traits.series, nullptr));
+            all += QLatin1String(page->description().stem);
+        }
+        return all;
+    }
+
     static void seriesRows()
     {
         QTest::addColumn<int>("series");
