@@ -137,16 +137,17 @@ private slots:
         const QString delay =
             "main.c:     voltage of battery powered domain (2.57V) when the battery powered "_s;
         const QMap<QString, QString> wanted{
-            {"zn64g133"_s,     delay                                                    },
-            {"zn64h133"_s,     delay                                                    },
-            {"zn64g150_152"_s, "clock.c: "_s                                            },
-            {"zn64g171_174"_s, "clock.c:  "_s                                           },
-            {"zn64g190"_s,     "clock.c:  "_s                                           }
+            {"zn64g133"_s,     delay         },
+            {"zn64h133"_s,     delay         },
+            {"zn64g150_152"_s, "clock.c: "_s },
+            {"zn64g171_174"_s, "clock.c:  "_s},
+            {"zn64g190"_s,     "clock.c:  "_s}
         };
         for (const QString& stem : stems()) {
             QStringList found;
             for (const char* ending : endings)
-                for (const QString& line : QString::fromUtf8(templateOf(stem, ending)).remove(u'\r').split(u'\n'))
+                for (const QString& line :
+                     QString::fromUtf8(templateOf(stem, ending)).remove(u'\r').split(u'\n'))
                     if (line.endsWith(u' '))
                         found += QLatin1String(ending) + u':' + line;
             QVERIFY2(found.join(u'\n') == wanted.value(stem), qPrintable(stem + u'\n' + found.join(u'\n')));
