@@ -87,6 +87,10 @@ private slots:
         ends("latest version", offer("3.0.17", files + "tool.tar.gz"), {Latest});
         ends("version of two fields", offer("3.1", files + "tool.tar.gz"), {Latest});
         ends("list not well formed", Server::answer("<Resources><VelmoraTool>"), {Latest});
+        ends("list in an encoding that it does not tell",
+             listOf("3.0.18", "", files + "tool.tar.gz",
+                    "ZN64 Clockwright Linux</Name><Name>\xca\xb1\xd6\xd3"),
+             {NewVersion}, "Cancel"_s);
         ends("list of others only", listOf("9.9.9", "", "", "ZN64 Other"), {Latest});
         const QByteArray deep = QByteArray("<a>").repeated(40000) + QByteArray("</a>").repeated(40000);
         ends("list nested too deep", Server::answer(deep), {Latest});
