@@ -131,6 +131,61 @@ private slots:
         QCOMPARE(withLf, 9);
     }
 
+    void modulesOfEachStem_data()
+    {
+        fieldRows({"zn64g110 | CRM TMR RTC BPR GPIO I2C USART PWC CAN ADC DAC SPI DMA DEBUG FLASH CRC WWDT "
+                   "WDT EXINT SDIO XMC USB MISC",
+                   "zn64g110r_114 | CRM TMR RTC BPR GPIO I2C USART PWC CAN ADC DAC SPI DMA DEBUG FLASH CRC "
+                   "WWDT WDT EXINT SDIO XMC USB ACC MISC EMAC",
+                   "zn64h110r | CRM TMR RTC BPR GPIO I2C USART PWC CAN ADC DAC SPI DMA DEBUG FLASH CRC WWDT "
+                   "WDT EXINT SDIO XMC USB ACC MISC EMAC",
+                   "zn64g120 | CRM TMR RTC BPR GPIO I2C USART PWC CAN ADC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT SDIO USB ACC MISC",
+                   "zn64g125 | CRM CMP TMR ERTC GPIO I2C USART PWC CAN ADC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT SDIO USB MISC",
+                   "zn64tq125 | CRM CMP TMR ERTC GPIO I2C USART PWC CAN ADC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT USB MISC",
+                   "zn64g130 | CRM CMP TMR ERTC GPIO I2C USART PWC ADC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT MISC SCFG",
+                   "zn64g135 | ACC CRM TMR ERTC GPIO I2C CAN USB USART PWC ADC SPI DMA DEBUG FLASH CRC WWDT "
+                   "WDT EXINT MISC SCFG",
+                   "zn64g133 | CRM TMR ERTC GPIO I2C USART PWC CAN ADC DAC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT XMC USB ACC MISC SCFG",
+                   "zn64h133 | CRM TMR ERTC GPIO I2C USART PWC CAN ADC DAC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT XMC USB ACC MISC SCFG",
+                   "zn64g150_152 | CRM TMR ERTC GPIO I2C USART PWC CAN ADC DAC SPI EDMA DMA DEBUG FLASH CRC "
+                   "WWDT WDT EXINT SDIO XMC USB ACC MISC QSPI DVP SCFG EMAC",
+                   "zn64g171_174 | ACC ADC CAN CRC CRM DEBUG DMA ERTC EXINT FLASH GPIO I2C MISC PWC QSPI "
+                   "SCFG SPI TMR USART USB WDT WWDT",
+                   "zn64g190 | ACC ADC CAN CRC CRM DEBUG DMA ERTC EXINT FLASH GPIO I2C MISC PWC QSPI SCFG "
+                   "SPI TMR USART USB WDT WWDT",
+                   "zn64g16x | ACC ADC AES CAN CRC CRM DAC DEBUG DMA EMAC ERTC EXINT FLASH GPIO I2C MISC PWC "
+                   "QSPI SCFG SDIO SPI TMR TRNG USART USB WWDT WDT XMC",
+                   "zn64d042 | CRM CAN TMR ERTC GPIO I2C USART PWC ADC SPI DMA DEBUG FLASH CRC WWDT WDT "
+                   "EXINT MISC SCFG HWDIV",
+                   "zn64p212_216 | ADC CAN CMP CRC CRM DAC DEBUG DMA ERTC EXINT FLASH GPIO I2C MISC OP PWC "
+                   "SCFG SPI TMR USART WWDT WDT",
+                   "zn64g142_146 | ADC CAN CMP CRC CRM DEBUG DMA ERTC EXINT FLASH GPIO I2C MISC PWC SCFG SPI "
+                   "TMR USART WDT WWDT"});
+    }
+    /// What a chip's library lacks does not compile, and what is left out cannot be used: no other file
+    /// tells.
+    void modulesOfEachStem()
+    {
+        QFETCH(QStringList, fields);
+        const QString stem = fields[0];
+        const QString text = QString::fromUtf8(templateOf(stem, "conf.h")).remove(u'\r');
+        const auto all = [&text](const QString& pattern) {
+            QStringList found;
+            for (auto each = QRegularExpression(pattern).globalMatch(text); each.hasNext();)
+                found += each.next().captured(1).toUpper();
+            return found.join(u' ');
+        };
+        QCOMPARE(all("#define (\\w+)_MODULE_ENABLED\n"_s), fields[1]);
+        QCOMPARE(all("#ifdef (\\w+)_MODULE_ENABLED\n"_s), fields[1]);
+        QCOMPARE(all("#include \"%1_(\\w+)\\.h\"\n"_s.arg(stem)), fields[1]);
+    }
+
     /// The library's own blanks at line ends, which an editor takes away unseen, and no others.
     void blanksAtLineEnds()
     {
