@@ -71,7 +71,7 @@ private slots:
         const QScopedPointer<ClockTreePage> page(
             createSeriesPage(static_cast<ZN64MCUSERIALS>(series), nullptr));
         const QString stem = QLatin1String(page->description().stem);
-        const QTemporaryDir folder;
+        const QTemporaryDir folder(scratchFolder());
         page->model().Set_GenerateCodeMode(MODE_CODE_VIEW);
         QVERIFY(page->model().GenerateCode(folder.path(), folder.path(), stem));
         for (const QString& file :

@@ -43,7 +43,7 @@ private:
     Fault generate(ClockTreePage& page) const;
 
     std::vector<std::unique_ptr<ClockTreePage>> m_pages;
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{scratchFolder()};
 };
 
 // Whatever the guard lets through declares nothing, and is read as the toolkit reads it: all of that, and

@@ -1,6 +1,7 @@
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
 #include "shell/ZN64PLLConfig.h"
+#include "testdata.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -46,7 +47,7 @@ void tst_Memory::replacedDesignsLeaveNothing()
 #ifdef __SANITIZE_ADDRESS__
     QSKIP("the sanitizer keeps freed memory back; it reports leaks by itself");
 #endif
-    QTemporaryDir folder;
+    QTemporaryDir folder(scratchFolder());
     std::vector<std::pair<ZN64MCUSERIALS, QString>> designs;
     for (const SeriesTraits& traits : seriesList())
         if (hasSeriesPage(traits.series))

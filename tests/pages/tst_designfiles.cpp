@@ -1,4 +1,5 @@
 #include "pagefixture.h"
+#include "testdata.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -28,16 +29,10 @@ private:
     /// Opens the text as a design; no dialog may show.
     bool open(const PageFixture& page, const QByteArray& text) const;
 
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{scratchFolder()};
 };
 
 namespace {
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
 
 QByteArray documentOf(const QByteArray& elements)
 {
@@ -139,7 +134,7 @@ void TestDesignFiles::roundTrip()
     const PageFixture page(word);
     const PageFixture used(word);
     QSet<QByteArray> designs;
-    const int rounds = 10 * randomRounds(page);
+    const int rounds = roundsToRun(10 * randomRounds(page));
     int read = 0;
     for (int round = 0; round < rounds; ++round) {
         page.takeRandomSteps(5, random);
@@ -194,7 +189,7 @@ void TestDesignFiles::readsLike()
 {
     QFETCH(QByteArray, document);
     QFETCH(QByteArray, plain);
-    const PageFixture page(QStringLiteral("G110"));
+    const PageFixture& page = resetPage(QStringLiteral("G110"));
     const PageFixture expected(QStringLiteral("G110"));
     QVERIFY(open(page, document));
     QVERIFY(open(expected, plain));
@@ -387,7 +382,7 @@ void TestDesignFiles::elements_data()
 void TestDesignFiles::elements()
 {
     QFETCH(QStringList, fields);
-    const PageFixture page(fields.at(0));
+    const PageFixture& page = resetPage(fields.at(0));
     QVERIFY(page.page->writeDesign(path("start.ZNCK"), page.series()));
     QByteArray document = contentOf(path("start.ZNCK"));
     const auto put = [&document](const QByteArray& name, const QByteArray& value) {

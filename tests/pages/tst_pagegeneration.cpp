@@ -1,4 +1,5 @@
 #include "pagefixture.h"
+#include "testdata.h"
 
 #include <QCheckBox>
 #include <QDesktopServices>
@@ -73,7 +74,7 @@ QString finished(const QString& stem)
 
 void TestPageGeneration::init()
 {
-    m_folder.reset(new QTemporaryDir);
+    m_folder.reset(new QTemporaryDir(scratchFolder()));
     QVERIFY(m_folder->isValid());
     m_opened.clear();
     m_asked.clear();
