@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -21,6 +22,14 @@ inline void fieldRows(std::initializer_list<const char*> lines)
             fields += field.trimmed();
         QTest::newRow(line) << fields;
     }
+}
+
+/// The template of a temporary folder in memory, where there is one: on a disk, each saved design waits for
+/// it.
+inline QString scratchFolder()
+{
+    const bool memory = QFileInfo(QStringLiteral("/dev/shm")).isWritable();
+    return (memory ? QStringLiteral("/dev/shm") : QDir::tempPath()) + QStringLiteral("/clockwright-XXXXXX");
 }
 
 inline bool writeFile(const QString& path, const QByteArray& content)

@@ -1,5 +1,5 @@
 #include "codegen/codetraits.h"
-#include "codegen/replacefile.h"
+#include "files/replacefile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -41,6 +41,12 @@ bool ZN64ConfigCLK::GenerateCode(const QString& incPath, const QString& srcPath,
         {"_conf.h",  inc + QStringLiteral("_conf.h"),         &ZN64ConfigCLK::GenerateCode_hextdefine, false}
     };
 
+    const bool forPreview = m_GenerateCodeMode == MODE_CODE_VIEW;
+    // The preview shows what it finds, and must not find the files of an earlier design.
+    if (forPreview)
+        for (const Output& output : outputs)
+            QFile::remove(output.path);
+
     // One file after the other: a run that ends early leaves the files before it written.
     for (const Output& output : outputs) {
         QString text;
@@ -48,14 +54,14 @@ bool ZN64ConfigCLK::GenerateCode(const QString& incPath, const QString& srcPath,
             return false;
         if (output.edit && !(this->*output.edit)(text))
             return false;
-        if (m_GenerateCodeMode == MODE_USER_BUTTON && (output.alwaysAsk || !m_replaceflag) &&
-            QFile::exists(output.path)) {
+        if (!forPreview && (output.alwaysAsk || !m_replaceflag) && QFile::exists(output.path)) {
             bool proceed = false;
             ShowConflictMessage(QFileInfo(output.path).fileName(), proceed, m_replaceflag);
             if (!proceed)
                 return false;
         }
-        if (!replaceFile(output.path, text.toUtf8()))
+        const auto write = forPreview ? writeAnew : replaceFile;
+        if (!write(output.path, text.toUtf8()))
             return false;
     }
     return true;

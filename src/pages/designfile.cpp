@@ -1,6 +1,6 @@
 #include "pages/ClockTreePage.h"
 
-#include "codegen/replacefile.h"
+#include "files/replacefile.h"
 #include "widgets/filedialogs.h"
 #include "widgets/messages.h"
 #include "xml/guardedxml.h"

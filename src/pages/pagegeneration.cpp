@@ -1,12 +1,12 @@
 #include "pages/ClockTreePage.h"
 
+#include "files/previewfolder.h"
 #include "pages/blocks/HighSpeedBlock.h"
 #include "pages/blocks/SystemClockBlock.h"
 #include "pages/description/inputlimits.h"
 #include "widgets/filedialogs.h"
 #include "widgets/messages.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QPushButton>
@@ -50,14 +50,17 @@ bool ClockTreePage::GenerateCode()
         return false;
     const bool byUser = model().Get_GenerateCodeMode() == MODE_USER_BUTTON;
     const QString folder = byUser ? filedialogs::folder(this, translated("Select directory"))
-                                  : QCoreApplication::applicationDirPath() + QLatin1String("/Code_Sample");
+                                  : previewfolder::pathWithoutLinks();
     if (folder.isNull())
         return false;
     const QString incPath = folder + QLatin1String("/inc");
     const QString srcPath = folder + QLatin1String("/src");
     if (!prepareFolders(incPath, srcPath))
         return false;
-    if (!model().GenerateCode(incPath, srcPath, m_description.stem())) {
+    // The preview's folder stays taken until its files are read.
+    const bool mayWrite = byUser || previewfolder::take();
+    if (!mayWrite || !model().GenerateCode(incPath, srcPath, m_description.stem())) {
+        previewfolder::release();
         showMessage(QMessageBox::Critical, translated("Error"), translated("Generate code failed!"),
                     {
                         {QMessageBox::Ok, translated("OK")}

@@ -1,21 +1,24 @@
 #include "preview/FormCodeView.h"
 
+#include "files/plainfile.h"
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"
 #include "widgets/look.h"
 #include "widgets/named.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTextStream>
 
 #include <Qsci/qscilexercpp.h>
 
 namespace {
+
+// The longest generated file has some 20 kB.
+constexpr qint64 MaxBytes = 1024 * 1024;
 
 QFont codeFont(int pointSize, int weight)
 {
@@ -149,13 +152,12 @@ void FormCodeView::LoadCode(const QString& series, const QString& directory)
 
 bool FormCodeView::loadFile(const QString& path, MyQsciScintilla* editor)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    QByteArray text;
+    // The folder lies open to others. A link is not the generator's, wherever it leads.
+    if (QFileInfo(path).isSymLink() || !readPlainFile(path, MaxBytes, text))
         return false;
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
     const int scrolled = editor->verticalScrollBar()->value();
-    editor->setText(stream.readAll());
+    editor->setText(QString::fromUtf8(text.replace("\r\n", "\n")));
     // In pixels. Else a bar would stay for the wide lines of an earlier text, or for the 2000 pixels that an
     // editor starts with.
     editor->setScrollWidth(1);

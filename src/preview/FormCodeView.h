@@ -22,8 +22,8 @@ public:
     explicit FormCodeView(QWidget* parent = nullptr);
 
     /// Loads the four files of the series from directory/src and directory/inc. A file that cannot be opened
-    /// is passed over in silence: its tab keeps the old text, and the names of the files behind it move one
-    /// tab up.
+    /// is passed over in silence, and so is a link, a pipe and the like: its tab keeps the old text, and the
+    /// names of the files behind it move one tab up.
     void LoadCode(const QString& series, const QString& directory);
 
     /// Sets the texts of the editors' context menus again in the current language.

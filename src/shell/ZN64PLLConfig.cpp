@@ -83,17 +83,12 @@ void ZN64PLLConfig::TranslatorUI()
     m_ConfigReset_Action->setText(tr("Config Reset"));
 }
 
-bool ZN64PLLConfig::newConfig(ZN64MCUSERIALS series)
+void ZN64PLLConfig::newConfig(ZN64MCUSERIALS series)
 {
-    if (!hasSeriesPage(series)) {
-        showNotSupported();
-        return false;
-    }
     m_toolBarGroupBox->show();
     NewMCUConfig(series);
     ZoomReset();
     InitParameters();
-    return true;
 }
 
 void ZN64PLLConfig::NewMCUConfig(ZN64MCUSERIALS series)
@@ -166,13 +161,6 @@ void ZN64PLLConfig::OpenFromFile(const QString& path, QString& seriesName)
     const SeriesTraits* traits = seriesByName(name);
     if (!traits) {
         m_MCUName = QStringLiteral("");
-        showNotSupported();
-        return;
-    }
-    if (!hasSeriesPage(traits->series)) {
-        // Unlike behind an unknown name, the design that stays keeps its name.
-        if (HaveActivedConfig())
-            seriesName = ::seriesName(m_pllConfigWidget->model().series());
         showNotSupported();
         return;
     }

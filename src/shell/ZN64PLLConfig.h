@@ -22,9 +22,8 @@ public:
 
     bool HaveActivedConfig() const { return m_pllConfigWidget != nullptr; }
 
-    /// Starts a design of the series in place of the present one. A series without a page is refused with a
-    /// message, and the present design stays; the result tells.
-    bool newConfig(ZN64MCUSERIALS series);
+    /// Starts a design of the series in place of the present one.
+    void newConfig(ZN64MCUSERIALS series);
     /// Replaces the page by a fresh one of the series.
     void NewMCUConfig(ZN64MCUSERIALS series);
     void AllConfigFormClose();

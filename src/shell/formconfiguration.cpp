@@ -1,5 +1,6 @@
 #include "shell/formconfiguration.h"
 
+#include "files/previewfolder.h"
 #include "preview/FormCodeView.h"
 #include "shell/ZN64PLLConfig.h"
 #include "shell/version.h"
@@ -7,7 +8,6 @@
 #include "widgets/named.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -137,12 +137,13 @@ void FormConfiguration::CodeView_PushButton_Clicked()
 {
     if (!m_clockConfigForm || !m_codeViewForm || !m_codeViewForm->isHidden())
         return;
-    QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/Code_Sample");
+    QString folder = previewfolder::path();
     if (GeneralCode_For_CodeView(folder) != 0) {
         showClockPage();
         return;
     }
     m_codeViewForm->LoadCode(m_MCUSerials, folder);
+    previewfolder::release();
     showCodePage();
 }
 

@@ -54,8 +54,9 @@ void FormConfiguration::NewDesign_Slot()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const SeriesTraits* traits = seriesByName(dialog.m_MCUName);
-    if (!traits || !m_clockConfigForm->newConfig(traits->series))
+    if (!traits)
         return;
+    m_clockConfigForm->newConfig(traits->series);
     m_MCUSerials = dialog.m_MCUName;
     showSeriesOnButton();
     if (!m_codeViewForm->isHidden())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QSet>
 #include <QTimer>
 
 #include <functional>
@@ -10,7 +12,8 @@
 class BodyWatch
 {
 public:
-    /// \a giveUp is called when the server has sent too much.
+    /// \a giveUp is called when the server has sent too much. The connections that the program has by now
+    /// are none of the transfer's.
     explicit BodyWatch(const std::function<void()>& giveUp);
 
     void start();
@@ -19,10 +22,16 @@ public:
     void bodyGrew() { m_grew = true; }
 
 private:
+    /// What a connection has received so far, by its number.
+    using Received = QHash<quint64, qint64>;
+
+    static Received receivedByAll();
     void look();
 
     std::function<void()> m_giveUp;
     QTimer m_timer;
+    QSet<quint64> m_foreign;
+    Received m_before;
     bool m_grew = false;
-    qint64 m_readBefore = 0;
+    qint64 m_besideBody = 0;
 };

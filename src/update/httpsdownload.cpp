@@ -49,14 +49,26 @@ QString unknownProtocol(const QUrl& url)
     return QStringLiteral("Protocol \"%1\" is unknown").arg(url.scheme());
 }
 
+QString noContent(const QUrl& url)
+{
+    return QStringLiteral("Error transferring %1 - server sends no content").arg(url.toDisplayString());
+}
+
+// Any number of redirections is followed, but those beyond a good many in no hurry.
+int pauseBefore(int redirection)
+{
+    constexpr int Quick = 20;
+    constexpr int LongestInMs = 1000;
+    return redirection <= Quick ? 0 : qMin(LongestInMs, 10 << qMin(redirection - Quick, 10));
+}
+
 } // namespace
 
 HttpsDownload::HttpsDownload(QWidget* parent)
-    : m_parent(parent), m_watch([this] {
-          abortTransfer(
-              QStringLiteral("Error transferring %1 - server sends no content").arg(url.toDisplayString()));
-      })
+    : m_parent(parent), m_watch([this] { abortTransfer(noContent(url)); })
 {
+    m_pause.setSingleShot(true);
+    m_pause.callOnTimeout(this, [this] { startRequest(url, 0); });
     QSslConfiguration tls = request.sslConfiguration();
     // The peer's certificate is deliberately not verified.
     tls.setPeerVerifyMode(QSslSocket::VerifyNone);
@@ -72,7 +84,7 @@ HttpsDownload::HttpsDownload(QWidget* parent)
 HttpsDownload::~HttpsDownload()
 {
     // The loop was left from outside: the program is being quit.
-    if (reply != nullptr)
+    if (reply != nullptr || m_pause.isActive())
         abandonTransfer();
 }
 
@@ -146,6 +158,7 @@ QFile* HttpsDownload::openFileForWrite(const QString& path)
 bool HttpsDownload::runTransfer(const QUrl& source, qint64 totalBytes)
 {
     m_downloadSucessFlag = false;
+    m_redirections = 0;
     if (!isWebAddress(source)) {
         failTransfer(closeFile(), unknownProtocol(source));
         return false;
@@ -222,13 +235,17 @@ void HttpsDownload::httpFinished()
         followRedirection(url.resolved(target.toUrl()), path);
         return;
     }
-    const QString fault = faultOfAnswer();
+    const QString fault = faultOfAnswer(path);
     fault.isNull() ? leaveLoop(true) : failTransfer(path, fault);
 }
 
-// An answer may be empty, but not one that says it is none.
-QString HttpsDownload::faultOfAnswer() const
+// An answer may be empty, but not one that says it is none. Nor one in chunks: where the network layer cannot
+// read the size of a chunk, it takes it for the last.
+QString HttpsDownload::faultOfAnswer(const QString& path) const
 {
+    const QByteArray coding = reply->rawHeader(QByteArrayLiteral("Transfer-Encoding")).toLower();
+    if (coding.contains("chunked") && QFileInfo(path).size() == 0)
+        return noContent(url);
     constexpr int NoContent = 204;
     constexpr int NotModified = 304;
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -252,7 +269,11 @@ void HttpsDownload::followRedirection(const QUrl& target, const QString& path)
     }
     disconnect(reply, &QNetworkReply::finished, this, &HttpsDownload::ProgressDlgHide);
     reply->deleteLater();
-    startRequest(target, 0);
+    reply = nullptr;
+    // A transfer with a dialog shows that it goes on, and has a button to end it.
+    const int pause = m_showErrorInfoFlag ? 0 : pauseBefore(++m_redirections);
+    url = target;
+    pause > 0 ? m_pause.start(pause) : startRequest(target, 0);
 }
 
 void HttpsDownload::failTransfer(const QString& path, const QString& reason)
@@ -275,8 +296,11 @@ void HttpsDownload::leaveLoop(bool success)
 void HttpsDownload::abandonTransfer()
 {
     m_watch.stop();
-    reply->disconnect(this);
-    reply->abort();
+    m_pause.stop();
+    if (reply != nullptr) {
+        reply->disconnect(this);
+        reply->abort();
+    }
     const QString path = closeFile();
     if (!path.isEmpty())
         QFile::remove(path);
@@ -311,6 +335,11 @@ void HttpsDownload::cancelDownload()
     httpRequestAborted = true;
     if (reply != nullptr)
         reply->abort();
+    else if (m_pause.isActive()) {
+        m_pause.stop();
+        closeFile();
+        leaveLoop(false);
+    }
 }
 
 void HttpsDownload::sslErrors(QNetworkReply* failing, const QList<QSslError>& errors)

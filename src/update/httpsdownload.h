@@ -9,6 +9,7 @@
 #include <QNetworkRequest>
 #include <QPointer>
 #include <QSslError>
+#include <QTimer>
 #include <QUrl>
 
 class ProgressDialog;
@@ -18,8 +19,9 @@ class QFile;
 /// Fetches one file from the net and returns when the transfer has ended, while the event loop keeps running.
 ///
 /// Never shown: a QDialog only for its place among the windows of the program. One object runs any number of
-/// transfers, one after the other. There is no timeout: a silent server keeps the caller waiting, and only
-/// the progress dialog offers a way to cancel. A server that sends on and on beside the body is left.
+/// transfers, one after the other. There is no timeout: a silent server keeps the caller waiting, until the
+/// user cancels in the progress dialog or the caller's cancelDownload ends it. A server that sends on and on
+/// beside the body is left.
 class HttpsDownload : public QDialog
 {
     Q_OBJECT
@@ -68,7 +70,7 @@ private:
     QString closeFile();
     void followRedirection(const QUrl& target, const QString& path);
     /// What is wrong with an answer that the network layer takes for a good one; null if nothing is.
-    QString faultOfAnswer() const;
+    QString faultOfAnswer(const QString& path) const;
     /// Ends in httpFinished before it returns.
     void abortTransfer(const QString& reason);
     void failTransfer(const QString& path, const QString& reason);
@@ -90,5 +92,8 @@ private:
     /// Why the program itself has ended the transfer; null if it has not.
     QString m_abortReason;
     qint64 m_sizeLimit = 0;
+    int m_redirections = 0;
+    /// Runs between two requests of a redirected transfer, when there is no reply.
+    QTimer m_pause;
     BodyWatch m_watch;
 };

@@ -13,11 +13,18 @@
 #include <QRegExp>
 #include <QScopedValueRollback>
 
+#include <optional>
+#include <utility>
+
 namespace {
 
 const QLatin1String ListName("VelmoraDownloadResource.xml");
 const QLatin1String ListTop("VelmoraTool");
 const QLatin1String ToolName("ZN64 Clockwright Linux");
+
+// The transfer of a list that is on its way, and who has been chosen since to begin anew.
+HttpsDownload* listTransfer = nullptr;
+std::optional<OnlineUpdate> chosenAnew;
 
 bool holdsVersion(const QString& address)
 {
@@ -40,10 +47,22 @@ OnlineUpdate::OnlineUpdate(QWidget* parent, const DownloadSite& site) : m_parent
 void OnlineUpdate::OnlineDownload()
 {
     static bool isRunning = false;
-    if (isRunning)
+    if (isRunning) {
+        if (listTransfer == nullptr)
+            return;
+        chosenAnew = *this;
+        listTransfer->cancelDownload();
         return;
+    }
     const QScopedValueRollback<bool> running(isRunning, true);
+    // From here and not from the call in between, or the event loops would pile up with each choice.
+    run();
+    while (chosenAnew)
+        std::exchange(chosenAnew, std::nullopt)->run();
+}
 
+void OnlineUpdate::run() const
+{
     HttpsDownload download(nullptr);
     Offer offer;
     if (!fetchOffer(download, offer) || !isWanted(offer))
@@ -65,7 +84,8 @@ bool OnlineUpdate::fetchOffer(HttpsDownload& download, Offer& offer) const
     QString path = QDir::currentPath();
     // A longer list could not be read, and the user has no button to end its transfer.
     download.SetSizeLimit(GuardedXml::MaxBytes);
-    if (!download.downloadFile(address, path, QString(), 0))
+    const QScopedValueRollback<HttpsDownload*> waiting(listTransfer, &download);
+    if (!download.downloadFile(address, path, QString(), 0) || chosenAnew)
         return false;
     download.SetSizeLimit(0);
     const auto text = [&path](const QString& tag) {

@@ -33,7 +33,9 @@ public:
     OnlineUpdate(QWidget* parent, const DownloadSite& site);
 
     /// The whole flow, from the resource list to the stored package; returns when the user is done with it.
-    /// The form stays usable while the list is fetched: a second call at that time does nothing.
+    /// The form stays usable while the list is fetched. A call at that time ends that transfer, which a
+    /// silent server would keep for good, and begins the flow anew; any other call within the flow does
+    /// nothing.
     void OnlineDownload();
 
     /// Text of the element \a tag of the tool \a toolName in the resource list \a file.
@@ -56,6 +58,7 @@ private:
         qint64 bytes = 0;
     };
 
+    void run() const;
     bool fetchOffer(HttpsDownload& download, Offer& offer) const;
     bool isWanted(const Offer& offer) const;
     bool fetchPackage(HttpsDownload& download, const Offer& offer, QString& target) const;

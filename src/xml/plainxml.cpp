@@ -1,5 +1,6 @@
 #include "xml/plainxml.h"
 
+#include <QRegularExpression>
 #include <QStringView>
 
 namespace {
@@ -16,6 +17,30 @@ const Enclosed EnclosedTexts[] = {
     {u"<![CDATA[", u"]]>"},
     {u"<?",        u"?>" }
 };
+
+// A parser goes by the quotes of an XML declaration: in them, "?>" ends nothing.
+bool hasOpenQuote(QStringView declaration)
+{
+    QChar quote;
+    for (const QChar c : declaration) {
+        if (c == quote)
+            quote = QChar();
+        else if (quote.isNull() && (c == u'"' || c == u'\''))
+            quote = c;
+    }
+    return !quote.isNull();
+}
+
+// The place behind a DOCTYPE of a name alone, -1 of any other. That one is parsed whole before the parser
+// tells of it, in a time that grows with the square of its declarations.
+int endOfBareDoctype(QStringView text, int start)
+{
+    static const QRegularExpression bare(
+        QStringLiteral("\\G<!DOCTYPE\\s{1,9}[^\\s<>\\[\\]\"'&%]{1,200}\\s{0,9}>"));
+    const QRegularExpressionMatch match =
+        bare.match(text.mid(start, 300).toString(), 0, QRegularExpression::NormalMatch);
+    return match.hasMatch() ? start + match.capturedLength() : -1;
+}
 
 // The place behind the tag's '>', -1 if it has none or too many attributes.
 int endOfTag(QStringView text, int start)
@@ -46,11 +71,19 @@ int endOfMarkup(QStringView text, int start)
         if (!rest.startsWith(each.start))
             continue;
         const qsizetype end = text.indexOf(each.end, start + each.start.size());
-        return end < 0 ? -1 : int(end + each.end.size());
+        const bool cutShort = rest.startsWith(u"<?xml") && rest.mid(5, 1).trimmed().isEmpty() &&
+                              hasOpenQuote(text.mid(start, end - start));
+        return end < 0 || cutShort ? -1 : int(end + each.end.size());
     }
-    // Of all else, only a DOCTYPE begins so. It is parsed whole before the parser tells of it, in a time that
-    // grows with the square of its declarations.
-    return rest.startsWith(u"<!") ? -1 : endOfTag(text, start);
+    return rest.startsWith(u"<!") ? endOfBareDoctype(text, start) : endOfTag(text, start);
+}
+
+// How many more elements are open behind the markup from '<' to '>'.
+int opened(QStringView markup)
+{
+    if (markup.startsWith(u"</"))
+        return -1;
+    return markup.startsWith(u"<!") || markup.startsWith(u"<?") || markup.endsWith(u"/>") ? 0 : 1;
 }
 
 } // namespace
@@ -58,11 +91,13 @@ int endOfMarkup(QStringView text, int start)
 bool isPlainXml(const QString& text)
 {
     int tags = 0;
-    for (int at = text.indexOf(u'<'); at >= 0; at = text.indexOf(u'<', at)) {
-        if (++tags > PlainXml::MaxTags)
+    int depth = 0;
+    for (int start = text.indexOf(u'<'), end = 0; start >= 0; start = text.indexOf(u'<', end)) {
+        end = endOfMarkup(text, start);
+        if (end < 0 || ++tags > PlainXml::MaxTags)
             return false;
-        at = endOfMarkup(text, at);
-        if (at < 0)
+        depth += opened(QStringView(text).mid(start, end - start));
+        if (depth > PlainXml::MaxDepth)
             return false;
     }
     return true;

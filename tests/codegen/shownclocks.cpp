@@ -34,7 +34,7 @@ public:
             take("usb"_s, "m_usbclock_Label"_s);
         if (model.Get_ToRTC_Switch())
             take("rtc"_s, "m_tortc_lineEdit"_s, " kHz"_s);
-        if (m_description.adcDivider && model.Get_ToADC_Switch())
+        if (m_description.adcSwitch() && model.Get_ToADC_Switch())
             take("adc"_s, "m_toadc_lineEdit"_s);
         for (const ClockOutput& output : m_description.clockOutputs)
             readOutput(output);
@@ -82,7 +82,7 @@ private:
             if (row.source == ClockSource::Pll)
                 m_fromPll += name;
             // Where the ADC has a source of its own, the model's ADC clock is not the ADC's.
-            const bool ownSource = !m_description.adcDivider && model.Get_ToADC_Switch();
+            const bool ownSource = !m_description.adcSwitch() && model.Get_ToADC_Switch();
             if (row.source == ClockSource::Untold || (row.source == ClockSource::Adc && ownSource))
                 m_shown.clocks.remove(name);
         }
@@ -119,7 +119,7 @@ private:
     void readLimits()
     {
         const ZN64ConfigCLK& model = m_page.model();
-        const bool normal = model.Get_ConfigMode() == PLLMODE_NORMAL && m_description.pllMultiplier;
+        const bool normal = model.Get_ConfigMode() == PLLMODE_NORMAL && m_description.pllMultiplier();
         // A system clock above its limit takes the buses along on the steps to it.
         static const QMap<ClockSource, QString> names{
             {ClockSource::Sclk, "sclk ahb ldo apb1 apb2"_s},
@@ -128,9 +128,10 @@ private:
             {ClockSource::Apb3, "apb3"_s                  },
             {ClockSource::Pll,  "pll"_s                   }
         };
-        for (const Limit& limit : m_description.onGenerating + m_description.painted)
-            if (!limit.question && limits::breaks(limit, clockValue(limit.clock, model), normal))
-                breakLimits(names.value(limit.clock));
+        for (const Limits* limits : {&m_description.onGenerating, &m_description.painted})
+            for (const Limit& limit : *limits)
+                if (!limit.question && limits::breaks(limit, clockValue(limit.clock, model), normal))
+                    breakLimits(names.value(limit.clock));
         if (m_description.generatedApb3 && model.Get_APB3CLKValue() > *m_description.generatedApb3)
             breakLimits("apb3"_s);
         const double input = model.GetPllInPutValue() / (normal ? 1 : model.Get_PLL_MS());

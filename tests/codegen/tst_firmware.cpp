@@ -104,7 +104,7 @@ private slots:
     {
         QFETCH(QString, word);
         const PageFixture page(word);
-        const QString stem = QLatin1String(page.page->description().stem);
+        const QString stem = page.page->description().stem();
         QRandomGenerator random(static_cast<quint32>(page.model().series()));
         const QTemporaryDir base;
         QVector<Shown> shown;
@@ -151,7 +151,7 @@ private slots:
     {
         QFETCH(QString, word);
         const PageFixture page(word);
-        const QString stem = QLatin1String(page.page->description().stem);
+        const QString stem = page.page->description().stem();
         const QTemporaryDir base;
         const auto generate = [&] {
             page.model().Set_GenerateCodeMode(MODE_USER_BUTTON);
@@ -240,7 +240,7 @@ private slots:
         const QString word = steps.section(u' ', 0, 0);
         const PageFixture page(word);
         page.take(steps.section(u' ', 1));
-        const QString stem = QLatin1String(page.page->description().stem);
+        const QString stem = page.page->description().stem();
         const QTemporaryDir base;
         const Shown shown = readPage(page);
         for (int design : {0, 1})

@@ -60,7 +60,7 @@ private:
         return shown.size() > 12000 ? "a text too long for a box"_s : Fault();
     }
 
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{scratchFolder()};
 };
 
 /// A template text with sections and calls in any order.

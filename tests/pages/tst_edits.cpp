@@ -59,7 +59,7 @@ const QHash<QString, QString> boxes{
 void TestEdits::run()
 {
     QFETCH(QStringList, fields);
-    const PageFixture page(fields.at(0));
+    const PageFixture& page = resetPage(fields.at(0));
     DialogAnswers answers;
     QStringList expectedBoxes;
     for (const QString& box : fields.at(2).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {

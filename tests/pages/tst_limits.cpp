@@ -1,6 +1,9 @@
 #include "pagefixture.h"
 #include "testdata.h"
 
+#include <QDir>
+#include <QTemporaryDir>
+
 #include <cmath>
 
 // What saving and generating refuse or ask. Clocks that a user reaches with luck only are put into the model.
@@ -10,7 +13,12 @@ class TestLimits : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        // What file dialogs list, hundreds of times.
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+    }
     void hardLimits_data();
     void hardLimits();
     void softLimits_data();
@@ -26,6 +34,8 @@ private:
     void refusals(const PageFixture& page, int when, const QStringList& limits) const;
     void questions(const PageFixture& page, int when, bool asksUsb, double adcLimit,
                    const QString& adcEnd) const;
+
+    const QTemporaryDir m_folder{scratchFolder()};
 };
 
 namespace {

@@ -1,4 +1,5 @@
 #include "pagefixture.h"
+#include "testdata.h"
 
 #include <QCheckBox>
 #include <QDesktopServices>
@@ -73,7 +74,7 @@ QString finished(const QString& stem)
 
 void TestPageGeneration::init()
 {
-    m_folder.reset(new QTemporaryDir);
+    m_folder.reset(new QTemporaryDir(scratchFolder()));
     QVERIFY(m_folder->isValid());
     m_opened.clear();
     m_asked.clear();
@@ -135,7 +136,7 @@ void TestPageGeneration::firstRunAsksNothing()
 {
     QFETCH(QString, word);
     const PageFixture page(word);
-    const QString stem = QString::fromLatin1(page.page->description().stem);
+    const QString stem = page.page->description().stem();
     QStringList shown;
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeUrl");
     QVERIFY(generate(page, QStringLiteral("_Open_Folder__"), shown));

@@ -13,12 +13,8 @@ class TestPageRules : public QObject
 private slots:
     void placesAreTakenAndInThePicture_data() { pageRows(); }
     void placesAreTakenAndInThePicture();
-    void ordersNameEverySetting_data() { pageRows(); }
-    void ordersNameEverySetting();
     void listsHaveNoDoubles_data() { pageRows(); }
     void listsHaveNoDoubles();
-    void limitsSayWhatTheyCompare_data() { pageRows(); }
-    void limitsSayWhatTheyCompare();
     void everyTextIsTranslated_data() { pageRows(); }
     void everyTextIsTranslated();
 };
@@ -28,18 +24,6 @@ namespace {
 bool hasDoubles(const QStringList& list)
 {
     return QSet<QString>(list.begin(), list.end()).size() != list.size();
-}
-
-QStringList sorted(QStringList list)
-{
-    list.sort();
-    return list;
-}
-
-/// All limits that the page refuses or asks about.
-Limits toldLimits(const PageDescription& page)
-{
-    return page.onSaving + page.onGenerating;
 }
 
 } // namespace
@@ -64,22 +48,6 @@ void TestPageRules::placesAreTakenAndInThePicture()
     QVERIFY(seen > 100);
 }
 
-void TestPageRules::ordersNameEverySetting()
-{
-    QFETCH(QString, word);
-    const PageFixture page(word);
-    const PageDescription& description = page.page->description();
-    QStringList settings = sorted(page.page->settingNames());
-    QStringList started;
-    for (const StartValue& start : description.startValues())
-        started += start.setting;
-    QCOMPARE(sorted(started), settings);
-    // The timers' multipliers follow from the dividers and stand in no file.
-    QVERIFY(settings.removeOne("tmrmultiply"_s));
-    QCOMPARE(sorted(description.settingsInFile()), settings);
-    QCOMPARE(sorted(description.settingsInReadingOrder()), settings);
-}
-
 void TestPageRules::listsHaveNoDoubles()
 {
     QFETCH(QString, word);
@@ -93,26 +61,6 @@ void TestPageRules::listsHaveNoDoubles()
     for (const ListNames& names : listNames()) {
         const PeripheralList& list = page.page->description().lists.*names.list;
         QVERIFY2(!hasDoubles(QString::fromLatin1(list.peripherals).split(u' ')), names.group);
-    }
-}
-
-void TestPageRules::limitsSayWhatTheyCompare()
-{
-    QFETCH(QString, word);
-    const PageFixture page(word);
-    const PageDescription& description = page.page->description();
-    const double top = page.model().GetSYSCLKValidMaxValue();
-    QCOMPARE(description.typedSclk.highest, top);
-    QVERIFY(limits::breaksAny(description.painted, ClockSource::Sclk, top + 0.001, true));
-    QVERIFY(!limits::breaksAny(description.painted, ClockSource::Sclk, top, true));
-    QVERIFY(!description.onSaving.empty() && !description.onGenerating.empty());
-    for (const Limit& limit : toldLimits(description)) {
-        const QString number = QString::number(limit.compared);
-        if (limit.question)
-            QVERIFY2(QString::fromLatin1(limit.question).contains(QRegularExpression(number + " ?MHz"_s)),
-                     limit.question);
-        else
-            QVERIFY2(limit.shown > 0 && limit.shown <= limit.compared, qPrintable(number));
     }
 }
 
@@ -143,14 +91,15 @@ void TestPageRules::everyTextIsTranslated()
     // The tables hold one of the two questions about the ADC, that with the comma where a series has both.
     const bool comma = std::any_of(description.onSaving.begin(), description.onSaving.end(),
                                    [](const Limit& each) { return each.question == limits::adc28Comma; });
-    for (const Limit& limit : toldLimits(description))
-        if (!comma || limit.question != limits::adc28)
-            texts += QString::fromLatin1(limit.question ? limit.question : limits::refusal(limit));
-    if (description.checksPllInput)
+    for (const Limits* list : {&description.onSaving, &description.onGenerating})
+        for (const Limit& limit : *list)
+            if (!comma || limit.question != limits::adc28)
+                texts += QString::fromLatin1(limit.question ? limit.question : limits::refusal(limit));
+    if (description.checksPllInput())
         texts += "pll input clock source range 2-16MHz!"_s;
     if (description.generatedApb3)
         texts += "apb3div input error!"_s;
-    if (description.pllParameters)
+    if (description.pllParameters())
         texts += QStringList{"pll_ms input error!"_s, "pll_ns input error!"_s};
     QTranslator chinese;
     QVERIFY(chinese.load(":/image/tr_zh.qm"_s));

@@ -11,6 +11,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace {
 
 const char* const editorNames[] = {"m_main_c_CodeEditor", "m_clock_c_CodeEditor", "m_conf_h_CodeEditor",
@@ -39,7 +41,7 @@ private slots:
             const QScopedPointer<ClockTreePage> page(createSeriesPage(each.series, nullptr));
             if (!page)
                 continue;
-            QCOMPARE(fileStemOfSeries(each.name()), QLatin1String(page->description().stem));
+            QCOMPARE(fileStemOfSeries(each.name()), page->description().stem());
             ++compared;
         }
         QVERIFY(compared > 0);
@@ -67,6 +69,28 @@ private slots:
         QCOMPARE(labels(), "main.c zn64g120_conf.h zn64g120_clock.h zn64g110_clock.h"_s);
         QCOMPARE(text(1), "/* clock \xc2\xb5 source */\n"_s);
         QCOMPARE(text(2), "/* newer */\n"_s);
+    }
+
+    // What no generator writes is not read: some of it would never end.
+    void passesOverWhatIsNoPlainFile_data() { fieldRows({"pipe", "device", "link", "large"}); }
+
+    void passesOverWhatIsNoPlainFile()
+    {
+        load("zn64g110"_s);
+        const QString before = text(0);
+        const QString path = folder() + "/src/main.c"_s;
+        const QString outside = folder() + "/outside"_s;
+        QVERIFY(QFile::remove(path) && writeFile(outside, "int outside;\n"));
+        const QString kind = QLatin1String(QTest::currentDataTag());
+        if (kind == "pipe"_s)
+            QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+        else if (kind == "large"_s)
+            QVERIFY(writeFile(path, "int large;\n") && QFile::resize(path, 8 << 20));
+        else
+            QVERIFY(QFile::link(kind == "device"_s ? "/dev/zero"_s : outside, path));
+        m_view->LoadCode("zn64g110"_s, folder());
+        QCOMPARE(text(0), before);
+        QCOMPARE(labels(), "zn64g110_clock.c zn64g110_conf.h zn64g110_clock.h zn64g110_clock.h"_s);
     }
 
     void scrollPositionSurvivesAReload()

@@ -1,5 +1,5 @@
 #include "formfixture.h"
-#include "testdata.h"
+#include "processdata.h"
 
 #include "preview/MyQsciScintilla.h"
 #include "update/onlineupdate.h"
@@ -7,8 +7,16 @@
 
 #include <QDir>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSizeGrip>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -186,6 +194,61 @@ private slots:
         QVERIFY(blocker.remove());
         QCOMPARE(answers.shown(), QStringList{"critical | Error | Creating \"inc\" folder error! | Ok"_s});
         QCOMPARE(m_program->state(), "clock ZN64G110"_s);
+    }
+
+    // What cannot be written whole is told, and no older text comes up in its place.
+    void previewOnAFullDisk()
+    {
+        m_program->enter("code ZN64G150"_s);
+        m_program->clockButton()->click();
+        m_program->enter("clock ZN64G110"_s);
+        limitFiles(100);
+        const auto unlimited = qScopeGuard([] { limitFiles(RLIM_INFINITY); });
+        DialogAnswers answers({"Ok"_s});
+        answers.add(DialogAnswers::press("OK"));
+        m_program->codeButton()->click();
+        QVERIFY(answers.shown().contains("critical | Error | Generate code failed! | OK"_s));
+        QCOMPARE(m_program->state(), "clock ZN64G110"_s);
+    }
+
+    // Programs take turns, from writing the files to having read them.
+    void previewTakesTurns()
+    {
+        const auto folder = [] {
+            return ::open(QFile::encodeName(sampleFolder()).constData(), O_RDONLY | O_DIRECTORY);
+        };
+        m_program->enter("code ZN64G110"_s);
+        const int other = folder();
+        QCOMPARE(flock(other, LOCK_EX | LOCK_NB), 0);
+        m_program->clockButton()->click();
+        QVERIFY(QFile::remove(sampleFolder() + "/src/main.c"_s));
+        {
+            DialogAnswers answers({"OK"_s});
+            m_program->codeButton()->click();
+            QCOMPARE(answers.shown(), QStringList{"critical | Error | Generate code failed! | OK"_s});
+        }
+        QVERIFY(!QFile::exists(sampleFolder() + "/src/main.c"_s));
+        std::thread later([other] {
+            QThread::msleep(50);
+            ::close(other);
+        });
+        m_program->codeButton()->click();
+        later.join();
+        QCOMPARE(m_program->state(), "code ZN64G110"_s);
+        const int again = folder();
+        QCOMPARE(flock(again, LOCK_EX | LOCK_NB), 0);
+        ::close(again);
+    }
+
+    // Nothing is written through a link in the place of a folder.
+    void previewFollowsNoLink()
+    {
+        const QTemporaryDir elsewhere;
+        QVERIFY(writeFile(elsewhere.filePath("main.c"_s), "older"));
+        QVERIFY(QDir().mkpath(sampleFolder()) && QFile::link(elsewhere.path(), sampleFolder() + "/src"_s));
+        m_program->enter("code ZN64G110"_s);
+        QCOMPARE(contentOf(elsewhere.filePath("main.c"_s)), QByteArray("older"));
+        QVERIFY(QFile::exists(sampleFolder() + "/src/main.c"_s));
     }
 
     void configResetAsks()

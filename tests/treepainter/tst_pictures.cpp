@@ -3,8 +3,10 @@
 #include "treepainter/builder.h"
 #include "treepainter/pagelayout.h"
 #include "treepainter/picture.h"
+#include "treepainter/seriestree.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsView>
 #include <QProcess>
@@ -48,19 +50,17 @@ void eachPage()
 {
     QTest::addColumn<ZN64MCUSERIALS>("series");
     for (const SeriesTraits& traits : seriesList()) {
-        if (hasSeriesPage(traits.series))
-            QTest::newRow(traits.word) << traits.series;
+        QTest::newRow(traits.word) << traits.series;
     }
 }
 
 /// The fields of a page in front of wires.
 QStringList covers(const PageDescription& description, PageLayout& page)
 {
-    const QString name = QLatin1String(description.picture);
     Problems problems;
-    const QString tree = QLatin1String(TREES "/") + name.chopped(7) + QLatin1String(".tree");
     QStringList fields;
-    for (const Wire& wire : buildDrawing(readTree(tree, problems), page, problems).wires)
+    const std::vector<Statement> tree = treeOf(description, QStringLiteral(PAGES), problems);
+    for (const Wire& wire : buildDrawing(tree, page, problems).wires)
         fields += wire.behind;
     return fields;
 }
@@ -78,7 +78,7 @@ void TestPictures::fitTheirPages()
     const std::unique_ptr<ClockTreePage> page(createSeriesPage(series, nullptr));
     page->show();
     const PageDescription& description = page->description();
-    const QImage picture(QLatin1String(":/image/") + QLatin1String(description.picture));
+    const QImage picture(QLatin1String(":/image/") + description.pictureName());
     QCOMPARE(picture.size(), description.pictureSize);
     QCOMPARE(picture.depth(), 8);
 
@@ -138,7 +138,7 @@ void TestPictures::doubledPictures()
 {
     QFETCH(ZN64MCUSERIALS, series);
     const std::unique_ptr<ClockTreePage> page(createSeriesPage(series, nullptr));
-    const QString name = QLatin1String(":/image/") + QLatin1String(page->description().picture);
+    const QString name = QLatin1String(":/image/") + page->description().pictureName();
     const QPixmap picture(name.chopped(4) + QLatin1String("@2x.bmp"));
     QCOMPARE(qApp->devicePixelRatio(), 2.0);
     QCOMPARE(QImage(name.chopped(4) + QLatin1String("@2x.bmp")).depth(), 8);
@@ -158,23 +158,29 @@ void TestPictures::doubledPictures()
     QVERIFY(seen == meant);
 }
 
+/// A tree of the program's own parts with one line more.
 void TestPictures::refusedTree()
 {
     const QTemporaryDir folder;
-    QFile tree(folder.filePath(QStringLiteral("G110.tree")));
-    QVERIFY(tree.open(QIODevice::WriteOnly));
-    tree.write("wire m_lick_lineEdit.right x=200 y=100\nwire m_lost_lineEdit.right x=200\n");
-    tree.close();
+    QDir().mkpath(folder.filePath(QStringLiteral("layout")));
+    for (const QFileInfo& part :
+         QDir(QStringLiteral(PAGES "/layout")).entryInfoList({QStringLiteral("*.tree")}))
+        QVERIFY(QFile::copy(part.filePath(), folder.filePath(QStringLiteral("layout/") + part.fileName())));
+    QFile usb(folder.filePath(QStringLiteral("layout/usb.tree")));
+    QVERIFY(usb.open(QIODevice::Append));
+    usb.write("wire m_lost_lineEdit.right x=200\n");
+    usb.close();
+    QVERIFY(QFile::remove(folder.filePath(QStringLiteral("layout/systick.tree"))));
     const QString bitmap = folder.filePath(QStringLiteral("G110.bmp"));
     QProcess painter;
-    painter.start(QStringLiteral(TREEPAINTER), {QStringLiteral("G110"), tree.fileName(), bitmap});
+    painter.start(QStringLiteral(TREEPAINTER), {QStringLiteral("G110"), folder.path(), bitmap});
     QVERIFY(painter.waitForFinished(60000));
     QCOMPARE(painter.exitCode(), 1);
     const QString told = QString::fromUtf8(painter.readAllStandardError());
-    QVERIFY2(told.contains(QStringLiteral("G110.tree:2: there is no control or figure m_lost_lineEdit\n")),
-             qPrintable(told));
-    QVERIFY2(told.contains(QStringLiteral("G110.tree: no wire ends at m_toi2s_lineEdit\n")),
-             qPrintable(told));
+    for (const char* fault :
+         {"usb.tree:4: there is no control or figure m_lost_lineEdit\n",
+          "systick.tree: No such file or directory\n", "G110: no wire ends at m_tosystick_lineEdit\n"})
+        QVERIFY2(told.contains(QLatin1String(fault)), qPrintable(told));
     QVERIFY(!QFile::exists(bitmap));
 }
 

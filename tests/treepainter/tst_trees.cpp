@@ -3,7 +3,9 @@
 #include "treepainter/checks.h"
 #include "treepainter/pagelayout.h"
 
-#include <QTemporaryDir>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 
@@ -78,14 +80,12 @@ QString problemsOf(const QString& text, const std::vector<PageLayout>& states)
 
 } // namespace
 
-/// Trees of the sample page: statements from files, the points of wires, and what is told of their faults.
+/// Trees of the sample page: the points of wires, and what is told of their faults.
 class TestTrees : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void includes_data();
-    void includes();
     void routes_data();
     void routes();
     void joins_data();
@@ -94,49 +94,9 @@ private slots:
     void checks();
     void pages_data();
     void pages();
+    void grid_data();
+    void grid();
 };
-
-void TestTrees::includes_data()
-{
-    QTest::addColumn<QString>("main");
-    QTest::addColumn<QString>("part");
-    QTest::addColumn<QString>("statements");
-    QTest::addColumn<QString>("told");
-    const auto row = [](const char* name, const char* main, const char* part, const char* statements,
-                        const char* told) {
-        QTest::newRow(name) << QString::fromUtf8(main) << QString::fromUtf8(part)
-                            << QString::fromUtf8(statements) << QString::fromUtf8(told);
-    };
-    row("in its place", "one\ninclude part.tree\nthree", "# part\ntwo",
-        "main.tree:1 one, part.tree:2 two, main.tree:3 three", "");
-    row("with its condition", "?a include part.tree", "?!b two", "part.tree:1 ?a ?!b two", "");
-    row("without end", "include part.tree", "include part.tree", "",
-        "part.tree:1: include takes one file, and no file itself again");
-    row("a fault in the part", "include part.tree\ntwo", "\ntext \"open", "main.tree:2 two",
-        "part.tree:2: the text has no closing quote");
-}
-
-void TestTrees::includes()
-{
-    QFETCH(QString, main);
-    QFETCH(QString, part);
-    QFETCH(QString, statements);
-    QFETCH(QString, told);
-    const QTemporaryDir folder;
-    QVERIFY(writeFile(folder.filePath(QStringLiteral("main.tree")), main.toUtf8()));
-    QVERIFY(writeFile(folder.filePath(QStringLiteral("part.tree")), part.toUtf8()));
-    Problems problems;
-    QStringList read;
-    for (const Statement& statement : readTree(folder.filePath(QStringLiteral("main.tree")), problems)) {
-        read << QStringLiteral("%1:%2 ").arg(statement.source.file).arg(statement.source.number);
-        for (const QString& condition : statement.conditions)
-            read.last() += QLatin1Char('?') + condition + QLatin1Char(' ');
-        read.last() += statement.keyword;
-    }
-    QCOMPARE(read.join(QStringLiteral(", ")), statements);
-    QCOMPARE(problems.empty() ? QString() : problems.front().text(), told);
-    QVERIFY(problems.size() <= 1);
-}
 
 void TestTrees::routes_data()
 {
@@ -145,20 +105,23 @@ void TestTrees::routes_data()
     const auto row = [](const char* wire, const char* points) {
         QTest::newRow(wire) << QString::fromUtf8(wire) << QString::fromUtf8(points);
     };
-    row("wire osc.right a.in", "80,55.5 193,55.5");
-    row("wire osc.right+8 x=130 a.in", "80,63.5 130.5,63.5 130.5,56.5 193,56.5");
-    row("wire osc.right x=100 b.in", "80,55.5 100.5,55.5 100.5,106.5 193,106.5");
+    row("wire osc.right a.in", "80,55.5 196,55.5");
+    row("wire osc.right+8 x=130 a.in", "80,63.5 130.5,63.5 130.5,56.5 196,56.5");
+    row("wire osc.right x=100 b.in", "80,55.5 100.5,55.5 100.5,106.5 196,106.5");
     row("wire sel.nose out.left-10", "223,72.5 300,72.5");
     row("wire sel.nose x=330 out.bottom", "223,81.5 330.5,81.5 330.5,95");
     row("wire sel.nose x=260 out.bottom", "");
     row("wire osc.right x=osc.right+20 y=osc-30", "80,55.5 100.5,55.5 100.5,25.5");
     row("wire out.right value.right+2", "");
-    row("chain osc a.in sel.nose x=260", "80,55.5 193,55.5 223,55.5 260.5,55.5");
+    row("chain osc a.in sel.nose x=260", "80,55.5 196,55.5 223,55.5 260.5,55.5");
     row("chain y=57 out x=260", "");
     row("chain y=75 out x=260", "300,75.5 260.5,75.5");
     row("chain osc x=100 out", "");
     row("chain osc a.in out", "");
     row("chain osc x=100 behind out", "");
+    row("wire osc.right x=120 a.in", "80,55.5 196,55.5");
+    row("steps way: osc\nchain way x=150", "80,55.5 150.5,55.5");
+    row("wire late@x=120 y=90\nwire late: osc.right x=150", "80,55.5 150.5,55.5 120.5,55.5 120.5,90.5");
 }
 
 void TestTrees::routes()
@@ -191,7 +154,7 @@ void TestTrees::joins_data()
         "m_clockout_hick_QLabel1 m_clockout_hick_RadioButton 26, no m_clockout_noclk_RadioButton 56");
     row("sources i2c1: m_i2c1_ switch result title\nwire switch.top y=i2c1.top",
         "i2c1 switch 144, switch result 144, m_i2c1_pclk_QLabel m_i2c1_pclk_RadioButton 128, "
-        "m_i2c1_hick_QLabel m_i2c1_hick_RadioButton 144, switch - 132 to 110");
+        "m_i2c1_hick_QLabel m_i2c1_hick_RadioButton 144, switch - 132 to 111");
     row("chain result ahb: x=270\nfan ahb: \"AHB\" apb\nchain ahb@y=apb apb",
         "result - 144, - - 144 to 125, - - 144 to 219, - sdio 132, - xmc 172, - apb 212");
     row("spine switch result x=380 behind sdio", "switch result 138, result - 138 behind sdio");
@@ -254,7 +217,7 @@ void TestTrees::checks_data()
     row("a text on a wire", "text x=100 y=55 \"clock\"", "t.tree:2: the wire crosses text clock");
     row("out of the picture", "wire main@x=120 y=-20", "t.tree:5: the wire reaches out of the picture");
     row("diagonal", "wire osc.right b.in",
-        "t.tree:5: the wire would run diagonally from (80, 55.5) to (193, 106.5): give it a bend");
+        "t.tree:5: the wire would run diagonally from (80, 55.5) to (196, 106.5): give it a bend");
     row("on another wire", "box low: x=30 y=250 \"/2\"\nwire low.right x=120 y=80",
         "t.tree:6: the wire runs along the wire of t.tree:3");
     row("beside another wire", "wire main@x=124 y=250", "t.tree:5: the wire runs along the wire of t.tree:3");
@@ -345,6 +308,56 @@ void TestTrees::pages()
     const bool behind = line.startsWith(QLatin1String("behind"));
     const QString tree = behind ? sampleTree().trimmed() + QLatin1Char(' ') + line : sampleTree() + line;
     QTEST(problemsOf(tree, states), "told");
+}
+
+void TestTrees::grid_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QRectF>("place");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("told");
+    const auto row = [](const char* name, const char* control, const QRectF& place, const char* line,
+                        const char* told) {
+        QTest::newRow(name) << QString::fromUtf8(control) << place << QString::fromUtf8(line)
+                            << QString::fromUtf8(told);
+    };
+    const QRectF aside(350, 250, 30, 15);
+    row("nothing to mend", "m_other_Label", aside, "", "");
+    row("a title close to the nose", "title", QRectF(60, 95, 30, 16), "",
+        "t.tree:1: the nose of mux i2c1 is 5.5 off its middle");
+    row("allowed", "title", QRectF(60, 95, 30, 16), "allow i2c1 nose", "");
+    row("the next block's field", "m_other_Label", QRectF(0, 137, 5, 15), "",
+        "t.tree:1: the gutter between m_other_Label and tag m_i2c1_hick_QLabel is 2");
+    row("a label at the edge", "m_other_Label", QRectF(94, 120, 20, 15), "",
+        "t.tree:1: m_other_Label stands too close to mux i2c1");
+    row("between pixels", "m_i2c1_pclk_RadioButton", QRectF(200.25, 122, 12, 12), "",
+        "t.tree:1: the outline of mux i2c1 lies between pixels");
+}
+
+/// What the eye finds uneven in a peripheral's small tree.
+void TestTrees::grid()
+{
+    QFETCH(QString, control);
+    QFETCH(QRectF, place);
+    QFETCH(QString, line);
+    PageLayout page = selectorPage();
+    page.controls.erase(std::remove_if(page.controls.begin(), page.controls.end(),
+                                       [](const PlacedControl& each) { return !each.bus.isEmpty(); }),
+                        page.controls.end());
+    if (PlacedControl* placed = page.find(control))
+        placed->rect = place;
+    else
+        page.controls.push_back({control, ControlKind::Label, place});
+    const QString title =
+        page.find(QStringLiteral("m_sel_Label")) ? QStringLiteral("m_sel_Label") : QString();
+    const QStringList lines =
+        problemsOf(QStringLiteral("sources i2c1: m_i2c1_ switch result title\nclockout clockout\n") + line,
+                   {page})
+            .split(QLatin1Char('\n'));
+    QTEST(
+        lines.filter(QRegularExpression(QStringLiteral("nose|gutter|too close to mux i2c1|pixels|allowance")))
+            .join(QLatin1Char('\n')),
+        "told");
 }
 
 QTEST_MAIN(TestTrees)

@@ -111,6 +111,15 @@ private:
             replied.arg(m_server.url("/d/nocontent.zip"), "No Content"_s));
         bad("/d/notmodified.zip", Server::cut("HTTP/1.1 304 Not Modified\r\n\r\n"),
             replied.arg(m_server.url("/d/notmodified.zip"), "Not Modified"_s));
+        // The network layer takes a size that it cannot read for the last.
+        const QString noContent = "Error transferring %1 - server sends no content"_s;
+        for (const char* size : {"ffffffffffffffff", "10000000000000000", "zz"}) {
+            const QByteArray path = "/d/chunk" + QByteArray(size) + ".zip";
+            bad(path.constData(),
+                Server::cut("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + QByteArray(size) +
+                            "\r\n" + Content),
+                noContent.arg(m_server.url(path)));
+        }
         // Texts of the server show as one line, which ends.
         bad("/d/controls.zip", Server::answer("", "500 a\tb\x1b[31m\xe2\x80\xaegnp.exe"),
             replied.arg(m_server.url("/d/controls.zip"), "a\tb\u241b[31m\u00e2<U+0080>\u00aegnp.exe"_s));
@@ -203,6 +212,10 @@ private slots:
         good("/d/relative.zip", Server::redirect("../d/tool.zip"), Content);
         good("/d/absolute.zip", Server::redirect(m_server.url("/d/relative.zip").toLatin1()), Content);
         good("/d/empty.zip", Server::answer(""), QByteArray(""));
+        good("/d/chunks.zip",
+             Server::cut("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5;x=y\r\n" + Content.left(5) +
+                         "\r\nB\r\n" + Content.mid(5) + "\r\n0\r\n\r\n"),
+             Content);
         addFailures();
         addExistingTargets();
     }
@@ -352,6 +365,18 @@ private slots:
         }
     }
 
+    // A server that is silent is waited for, whatever else the program reads meanwhile.
+    void silentServerIsWaitedFor()
+    {
+        m_server.on("/d/late.zip", [](QSslSocket& socket) {
+            QFile other("/dev/zero"_s);
+            QVERIFY(other.open(QIODevice::ReadOnly) && other.read(64 << 20).size() == 64 << 20);
+            QTimer::singleShot(300, &socket, [&socket] { Server::answer(Content)(socket); });
+        });
+        QVERIFY(fetch(m_server.url("/d/late.zip"), false));
+        QCOMPARE(contentOf(m_path), Content);
+    }
+
     // A limit holds for the body, whatever the server says of its length.
     void sizeLimit_data()
     {
@@ -432,6 +457,28 @@ private slots:
         QCOMPARE(answers.shown(), QStringList());
         QVERIFY(settled > 0 && last > 0);
         checkGrowth(last - settled, 1000);
+    }
+
+    // Nobody sees a silent transfer, so it keeps neither the core nor the server busy, and can be ended.
+    void silentRedirectionSlowsDown()
+    {
+        const int start = m_server.requestCount();
+        QTimer::singleShot(1500, m_download.data(), &HttpsDownload::cancelDownload);
+        QVERIFY(!fetch(m_server.url("/d/endless.zip"), false));
+        const int count = m_server.requestCount() - start;
+        QVERIFY2(count > 20 && count < 40, qPrintable(QString::number(count)));
+        QTest::qWait(1100);
+        QCOMPARE(m_server.requestCount() - start, count);
+        QVERIFY(fetch(m_server.url("/d/tool.zip"), false));
+        // Ended with the program, it leaves nothing.
+        init();
+        QTimer::singleShot(1500, qApp, &QCoreApplication::quit);
+        QTimer::singleShot(0, this, [this] {
+            QVERIFY(!fetch(m_server.url("/d/endless.zip"), false));
+            m_download.reset();
+        });
+        QCoreApplication::exec();
+        QCOMPARE(leftFiles(), QStringList());
     }
 
     void quittingEndsTheTransfer()

@@ -87,6 +87,10 @@ private slots:
         ends("latest version", offer("3.0.17", files + "tool.tar.gz"), {Latest});
         ends("version of two fields", offer("3.1", files + "tool.tar.gz"), {Latest});
         ends("list not well formed", Server::answer("<Resources><VelmoraTool>"), {Latest});
+        ends("list in an encoding that it does not tell",
+             listOf("3.0.18", "", files + "tool.tar.gz",
+                    "ZN64 Clockwright Linux</Name><Name>\xca\xb1\xd6\xd3"),
+             {NewVersion}, "Cancel"_s);
         ends("list of others only", listOf("9.9.9", "", "", "ZN64 Other"), {Latest});
         const QByteArray deep = QByteArray("<a>").repeated(40000) + QByteArray("</a>").repeated(40000);
         ends("list nested too deep", Server::answer(deep), {Latest});
@@ -162,19 +166,33 @@ private slots:
         QCOMPARE(m_opened, answers.constLast() == OpenFolder ? QList<QUrl>{folder} : QList<QUrl>());
     }
 
-    // The form stays usable while the list is on its way, and so does its menu.
-    void secondCallWhileWaiting()
+    // A server that says nothing is waited for, until the user chooses the entry again.
+    void secondChoiceBeginsAnew_data() { fieldRows({"silent", "redirected for ever"}); }
+
+    void secondChoiceBeginsAnew()
     {
+        const bool silent = QByteArray(QTest::currentDataTag()) == "silent";
         const int requests = m_server.requestCount();
-        OnlineUpdate update(&m_form, site(false));
-        m_server.on(ListPath, [&update](QSslSocket& socket) {
-            update.OnlineDownload();
-            listOf("3.0.17", "", "")(socket);
+        const OnlineUpdate first(&m_form, site(false));
+        const OnlineUpdate second(&m_form, site(true));
+        const QByteArray elsewhere("/download/elsewhere.xml");
+        const auto choose = [&] {
+            QTest::ignoreMessage(QtDebugMsg, qPrintable(m_server.url(ListPath)));
+            m_server.on(ListPath, listOf("3.0.17", "", ""));
+            OnlineUpdate(second).OnlineDownload();
+        };
+        m_server.on(elsewhere, Server::redirect("elsewhere.xml"));
+        m_server.on(ListPath, [&](QSslSocket& socket) {
+            if (!silent)
+                Server::redirect("elsewhere.xml")(socket);
+            QTimer::singleShot(silent ? 100 : 1500, this, choose);
         });
         DialogAnswers dialogs({"Ok"_s});
-        update.OnlineDownload();
-        QCOMPARE(m_server.requestCount(), requests + 1);
+        OnlineUpdate(first).OnlineDownload();
         QCOMPARE(dialogs.shown(), QStringList(Latest));
+        const int made = m_server.requestCount() - requests;
+        QVERIFY2(silent ? made == 2 : made > 20 && made < 40, qPrintable(QString::number(made)));
+        QCOMPARE(QDir().entryList(QDir::Files), QStringList());
     }
 };
 

@@ -1,9 +1,11 @@
-#include "codegen/replacefile.h"
+#include "files/replacefile.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -19,6 +21,13 @@ bool writeInPlace(const QString& path, const QByteArray& content)
     return true;
 }
 
+// Links that lead to each other. Qt would take the first of them for the file to be replaced.
+bool isCircleOfLinks(const QString& path)
+{
+    struct stat status;
+    return ::stat(QFile::encodeName(path).constData(), &status) != 0 && errno == ELOOP;
+}
+
 } // namespace
 
 bool replaceFile(const QString& path, const QByteArray& content)
@@ -26,6 +35,8 @@ bool replaceFile(const QString& path, const QByteArray& content)
     const QFileInfo present(path);
     if (present.exists() && !present.isFile() && !present.isDir())
         return writeInPlace(path, content);
+    if (isCircleOfLinks(path))
+        return false;
     QSaveFile file(path);
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly))
@@ -37,4 +48,16 @@ bool replaceFile(const QString& path, const QByteArray& content)
     if (!file.commit() && file.error() == QFileDevice::RenameError)
         return writeInPlace(path, content);
     return true;
+}
+
+bool writeAnew(const QString& path, const QByteArray& content)
+{
+    QFile::remove(path);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return false;
+    if (file.write(content) == content.size())
+        return true;
+    file.remove();
+    return false;
 }
