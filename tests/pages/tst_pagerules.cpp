@@ -17,8 +17,6 @@ private slots:
     void ordersNameEverySetting();
     void listsHaveNoDoubles_data() { pageRows(); }
     void listsHaveNoDoubles();
-    void limitsSayWhatTheyCompare_data() { pageRows(); }
-    void limitsSayWhatTheyCompare();
     void everyTextIsTranslated_data() { pageRows(); }
     void everyTextIsTranslated();
 };
@@ -93,26 +91,6 @@ void TestPageRules::listsHaveNoDoubles()
     for (const ListNames& names : listNames()) {
         const PeripheralList& list = page.page->description().lists.*names.list;
         QVERIFY2(!hasDoubles(QString::fromLatin1(list.peripherals).split(u' ')), names.group);
-    }
-}
-
-void TestPageRules::limitsSayWhatTheyCompare()
-{
-    QFETCH(QString, word);
-    const PageFixture page(word);
-    const PageDescription& description = page.page->description();
-    const double top = page.model().GetSYSCLKValidMaxValue();
-    QCOMPARE(description.typedSclk.highest, top);
-    QVERIFY(limits::breaksAny(description.painted, ClockSource::Sclk, top + 0.001, true));
-    QVERIFY(!limits::breaksAny(description.painted, ClockSource::Sclk, top, true));
-    QVERIFY(!description.onSaving.empty() && !description.onGenerating.empty());
-    for (const Limit& limit : toldLimits(description)) {
-        const QString number = QString::number(limit.compared);
-        if (limit.question)
-            QVERIFY2(QString::fromLatin1(limit.question).contains(QRegularExpression(number + " ?MHz"_s)),
-                     limit.question);
-        else
-            QVERIFY2(limit.shown > 0 && limit.shown <= limit.compared, qPrintable(number));
     }
 }
 
