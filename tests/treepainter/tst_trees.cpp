@@ -234,6 +234,9 @@ void TestTrees::checks_data()
     row("offset beyond the side", "wire osc.right+20 x=100", "t.tree:5: the offset leaves the side of osc");
     row("two bends in a row", "wire osc.bottom y=90 y=120",
         "t.tree:5: two bends in a row along the same axis");
+    row("a part without what it needs", "needs pll main\ngives main", "t.tree:5: no part gives pll");
+    row("a part without what it gives", "gives pll sel", "t.tree:5: the part does not give pll");
+    row("two parts that give the same", "gives main\ngives main", "t.tree:6: main is given twice");
     row("open quote", "text x=30 y=250 \"clock", "t.tree:5: the text has no closing quote");
     row("crystal without room", "crystal osc m_osc_Label m_osc_Label",
         "t.tree:5: there is no room for a crystal at osc");

@@ -63,6 +63,8 @@ const QHash<QString, TreeBuilder::Handler>& TreeBuilder::handlers()
         {QStringLiteral("let"),      &TreeBuilder::addLet        },
         {QStringLiteral("room"),     &TreeBuilder::addRoom       },
         {QStringLiteral("steps"),    &TreeBuilder::addSteps      },
+        {QStringLiteral("needs"),    &TreeBuilder::addNeeds      },
+        {QStringLiteral("gives"),    &TreeBuilder::addGives      },
         {QStringLiteral("mux"),      &TreeBuilder::addMux        },
         {QStringLiteral("box"),      &TreeBuilder::addBox        },
         {QStringLiteral("pad"),      &TreeBuilder::addPad        },
@@ -146,6 +148,33 @@ void TreeBuilder::addSteps(const Statement& statement)
     m_steps.insert(statement.name, statement.words);
 }
 
+void TreeBuilder::addNeeds(const Statement& statement)
+{
+    for (const Word& word : statement.words)
+        m_needed.push_back({statement.source, word.text});
+}
+
+void TreeBuilder::addGives(const Statement& statement)
+{
+    for (const Word& word : statement.words) {
+        if (m_given.contains(word.text))
+            throw TreeError(QStringLiteral("%1 is given twice").arg(word.text));
+        m_given.insert(word.text, statement.source);
+    }
+}
+
+void TreeBuilder::checkJoints(Problems& problems) const
+{
+    for (const auto& [source, name] : m_needed)
+        if (!m_given.contains(name))
+            problems.push_back({source, QStringLiteral("no part gives %1").arg(name)});
+    for (auto given = m_given.cbegin(); given != m_given.cend(); ++given) {
+        const QString& name = given.key();
+        if (!m_drawing.wire(name) && !m_drawing.rectOf(name) && !m_steps.contains(name))
+            problems.push_back({given.value(), QStringLiteral("the part does not give %1").arg(name)});
+    }
+}
+
 void TreeBuilder::addRoom(const Statement& statement)
 {
     needWords(statement, 2);
@@ -198,5 +227,6 @@ Drawing buildDrawing(const std::vector<Statement>& statements, PageLayout& page,
             problems.push_back({statement.source, *fault});
     drawWires(builder, wires, problems);
     builder.shapeMuxes();
+    builder.checkJoints(problems);
     return drawing;
 }

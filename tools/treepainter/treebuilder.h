@@ -17,6 +17,8 @@ public:
     void reserve(const QString& label, const QString& text);
     /// Gives all multiplexers their shapes, once the wires that leave them are there.
     void shapeMuxes();
+    /// What a part needs must be given by one, and be drawn.
+    void checkJoints(Problems& problems) const;
 
 private:
     using Handler = void (TreeBuilder::*)(const Statement&);
@@ -26,6 +28,8 @@ private:
     void addLet(const Statement& statement);
     void addRoom(const Statement& statement);
     void addSteps(const Statement& statement);
+    void addNeeds(const Statement& statement);
+    void addGives(const Statement& statement);
 
     void addMux(const Statement& statement);
     void addBox(const Statement& statement);
@@ -71,6 +75,8 @@ private:
     Drawing& m_drawing;
     Anchors m_anchors;
     QHash<QString, QVector<Word>> m_steps; ///< of rows, by name
+    QHash<QString, SourceLine> m_given;    ///< what leaves a part, by name
+    std::vector<std::pair<SourceLine, QString>> m_needed;
 };
 
 /// Throws unless the statement has so many words.
