@@ -7,6 +7,7 @@
 
 #include <QSize>
 
+#include <initializer_list>
 #include <limits>
 #include <optional>
 #include <vector>
@@ -261,6 +262,8 @@ struct PageDescription
     QString word() const { return QLatin1String(seriesTraits(series).word); }
     QString stem() const { return QLatin1String(seriesTraits(series).stem); } ///< of the generated files
     QString pictureName() const;
+    /// Moves more controls than the sibling from which the description comes.
+    void move(std::initializer_list<ControlPlace> rows) { moved.insert(moved.end(), rows); }
     /// All parts of the tree.
     std::vector<PlacedPart> parts() const;
 };

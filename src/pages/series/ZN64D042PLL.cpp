@@ -27,7 +27,8 @@ PageDescription ZN64D042PLL::describe()
 {
     PageDescription page{ZN64D042, QSize(1408, 830)};
     // clang-format off
-    page.tree = {{"modes"}, {"clockoutnine"}, {"bandone"}, {"peripheral", 1021, 528}, {"peripheral", 684, 655}};
+    page.tree = {{"modes"}, {"clockoutnine"}, {"bandone"},
+                 {"peripheral", 1021, 528}, {"peripheral", 684, 655}};
     page.buses = {{"systick", 1092, 77},    {"apb1", 1036, 217},       {"apb1timer", 1092, 243},
                   {"apb2", 1036, 421},      {"apb2timer", 1092, 455}, {"adc", 1115, 333}};
     // clang-format on

@@ -6,6 +6,8 @@
 PageDescription ZN64G110PLL::describe()
 {
     PageDescription page{ZN64G110, QSize(1408, 830)};
+    // The tree: its parts, from the oscillators to AHB with USB and the clock output, the buses behind AHB,
+    // and the column of outputs at its place.
     page.tree = {{"multiplier"}, {"usb"}, {"clockouteight"}};
     page.buses = {{"buses"}};
     page.column = {
@@ -18,6 +20,8 @@ PageDescription ZN64G110PLL::describe()
     page.lists.apb2Timers = {"TMR1 TMR8 TMR9 TMR10 TMR11 TMR15", -136};
     page.rtcName = "rtc";
 
+    // The chip: limits beside the highest system clock, MHz, and what a new design starts with beside the
+    // usual.
     page.limits.apb1 = 100.0;
     page.limits.apb2 = 100.0;
     page.start = {

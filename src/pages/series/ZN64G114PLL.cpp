@@ -13,7 +13,7 @@ PageDescription ZN64G114PLL::describe()
     page.outputs = "i2s systick sido dma xmc emac gpio apb1peripheral apb1tmr apb2peripheral apb2tmr";
     page.lists.apb2Timers.down = -114;
     // Its picture has been drawn a little otherwise.
-    const std::vector<ControlPlace> moved = {
+    page.move({
         {"m_tortc_ComboBox",          305,  143},
         {"m_tortc_lineEdit",          415,  144},
         {"m_tortc_Label",             500,  148},
@@ -21,8 +21,7 @@ PageDescription ZN64G114PLL::describe()
         {"m_tosystick_div",           1092, 111},
         {"m_pllrcs_hext_RadioButton", 471,  327},
         {"m_pllrcs_hick_RadioButton", 471,  380},
-    };
-    page.moved.insert(page.moved.end(), moved.begin(), moved.end());
+    });
     return page;
 }
 

@@ -57,8 +57,8 @@ PageDescription ZN64G133PLL::describe()
 {
     PageDescription page{ZN64G133, QSize(1406, 833)};
     // clang-format off
-    page.tree = {{"direct"}, {"plldirecthalf"}, {"divided"}, {"usbdirect"}, {"clockouttwiceeight"}, {"bandthree"},
-                 {"peripheral", 684, 622}, {"peripheral", 684, 730}};
+    page.tree = {{"direct"}, {"plldirecthalf"}, {"divided"}, {"usbdirect"}, {"clockouttwiceeight"},
+                 {"bandthree"}, {"peripheral", 684, 622}, {"peripheral", 684, 730}};
     page.buses = {{"busesdirect"}};
     // clang-format on
     page.column = {

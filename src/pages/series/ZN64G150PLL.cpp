@@ -48,7 +48,8 @@ PageDescription ZN64G150PLL::describe()
 {
     PageDescription page{ZN64G150, QSize(1404, 828)};
     // clang-format off
-    page.tree = {{"direct"}, {"plldirectfr"}, {"usbdirect"}, {"hexttosclk"}, {"clockout1"}, {"clockout2"}, {"sclkwarnings", 775, 315}};
+    page.tree = {{"direct"}, {"plldirectfr"}, {"usbdirect"}, {"hexttosclk"}, {"clockout1"}, {"clockout2"},
+                 {"sclkwarnings", 775, 315}};
     page.buses = {{"systick", 1092, 89},      {"apb1limited", 1035, 448}, {"apb1timer", 1092, 486},
                   {"apb2limited", 1035, 613}, {"apb2timer", 1092, 653}};
     page.column = {
