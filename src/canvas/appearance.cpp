@@ -25,6 +25,16 @@ void appearance::setText(QLineEdit* edit, const QString& text)
         edit->setText(text);
 }
 
+QString appearance::radioSheet(const char* color, const char* spacing)
+{
+    return QStringLiteral("QRadioButton{background-color:rgb(222, 235, 246); %2}"
+                          "QRadioButton::indicator:checked {width:12px; height:12px; border-radius:6px; "
+                          "background-color:%1;}"
+                          "QRadioButton::indicator:unchecked {width:10px; height:10px; border-radius:5px; "
+                          "border: 1px solid %1; }")
+        .arg(QLatin1String(color), QLatin1String(spacing));
+}
+
 void appearance::setSpoken(QWidget* control, const QString& name)
 {
     if (control->accessibleName() == name)

@@ -14,6 +14,10 @@ void setSheet(QWidget* widget, const QString& sheet);
 void setText(QLabel* label, const QString& text);
 void setText(QLineEdit* edit, const QString& text);
 
+/// The sheet of a radio button in this colour. spacing is its own text between the blanks: the factory's and
+/// the pages' settled texts differ in it.
+QString radioSheet(const char* color, const char* spacing = "spacing: 0px;");
+
 /// What assistive tools say of a control of the scene, and of the window that it is to them.
 void setSpoken(QWidget* control, const QString& name);
 

@@ -1,5 +1,6 @@
 #include "canvas/controlfactory.h"
 
+#include "canvas/appearance.h"
 #include "widgets/look.h"
 
 #include <QCoreApplication>
@@ -188,12 +189,7 @@ QLabel* ControlFactory::NewQLabelInScenePos(const QString& text, int x, int y, i
 QRadioButton* ControlFactory::NewRadioButtonInScenePos(int x, int y)
 {
     auto* radio = new QRadioButton(this);
-    radio->setStyleSheet(
-        QStringLiteral("QRadioButton{background-color:rgb(222, 235, 246); spacing: 0px; spacing: 0px;}"
-                       "QRadioButton::indicator:checked {width:12px; height:12px; border-radius:6px; "
-                       "background-color:rgb(0, 176, 240);}"
-                       "QRadioButton::indicator:unchecked {width:10px; height:10px; border-radius:5px; "
-                       "border: 1px solid rgb(0, 176, 240); }"));
+    radio->setStyleSheet(appearance::radioSheet("rgb(0, 176, 240)", "spacing: 0px; spacing: 0px;"));
     embed(radio, x, y);
     return radio;
 }

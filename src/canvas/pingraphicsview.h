@@ -30,8 +30,8 @@ public:
 
     void zoomIn();
     void zoomOut();
-    /// Back to the unit scale. The product of the zoom factors stays, so pans keep the speed of the old zoom:
-    /// this is meant.
+    /// Back to the unit scale. The product of the zoom factors stays, so pans keep the speed of the old zoom,
+    /// as users of the keyboard are used to.
     void zoomReset();
     /// Scales by the factor unless that leads out of 0.2 to 5.0.
     void zoom(float scaleFactor);

@@ -37,6 +37,12 @@ void ClockTreePage::orderSettings()
             m_startOrder.push_back(row);
     if (m_startOrder.size() != static_cast<std::size_t>(m_settings.size()))
         qFatal("a setting of the page has no row: it has %s", qPrintable(m_settings.keys().join(u' ')));
+    for (const SettingRow& row : m_startOrder) {
+        const Setting& setting = m_settings[row.name];
+        if (setting.offers && !setting.offers(row.start))
+            qFatal("%s starts %s with %g, which it does not offer", qPrintable(m_description.word()),
+                   qPrintable(row.name), row.start);
+    }
     m_fileOrder = namesBy(&SettingRow::inFile, m_startOrder);
     m_readingOrder = namesBy(&SettingRow::inReading, m_startOrder);
 }

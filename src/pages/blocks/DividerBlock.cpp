@@ -29,8 +29,13 @@ Setting DividerBlock::setting()
         accepted.erase(std::remove(accepted.begin(), accepted.end(), unread), accepted.end());
     const auto shower = [this](double divisor) { show(divisor); };
     const Acceptance accept = settings::oneOf(std::move(accepted), m_divider.fallback);
-    return m_divider.decimal ? settings::decimal(model(), m_divider.field, shower, accept)
-                             : settings::whole(model(), m_divider.field, shower, accept);
+    Setting setting = m_divider.decimal ? settings::decimal(model(), m_divider.field, shower, accept)
+                                        : settings::whole(model(), m_divider.field, shower, accept);
+    setting.offers = [this](double divisor) {
+        return indexOf(divisor) < m_ComboBox->count() &&
+               valueAt(m_divider.divisors, indexOf(divisor)) == divisor;
+    };
+    return setting;
 }
 
 void DividerBlock::ControlsConnectSlots()

@@ -2,6 +2,8 @@
 
 #include "pages/description/inputlimits.h"
 
+#include <QScopedValueRollback>
+
 PllSourceBlock::PllSourceBlock(ClockTree& tree) : ClockBlock(tree)
 {
     if (description().pllHextDivider())
@@ -65,6 +67,9 @@ bool PllSourceBlock::PLLInputSourceClockCheck()
     const double input = model().GetPllInPutValue();
     if (input >= inputlimits::pllInputMin && input <= inputlimits::pllInputMax)
         return true;
+    if (m_correcting)
+        qFatal("a corrected hext gives the PLL an input of %g MHz", input);
+    const QScopedValueRollback<bool> correcting(m_correcting, true);
     tree().showError("pll input clock source range 2-16MHz!");
     // Too high: 16 whatever divider is chosen, for the undivided limit is good with any of them.
     tree().correctHext(input < inputlimits::pllInputMin ? 2 * model().Get_HEXT_DIV()

@@ -36,4 +36,5 @@ private:
     QRadioButton* m_pllrcs_hick_RadioButton = nullptr;
     std::vector<RadioChoice> m_pllhextdivChoices;
     std::vector<RadioChoice> m_pllrcsChoices;
+    bool m_correcting = false;
 };

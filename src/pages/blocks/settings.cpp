@@ -65,6 +65,10 @@ Setting settings::radios(ZN64ConfigCLK& model, ModelField field, const std::vect
         field.set(model, value);
         checkValue(choices, value);
     };
+    setting.offers = [&choices](double value) {
+        return std::any_of(choices.begin(), choices.end(),
+                           [value](const RadioChoice& choice) { return choice.value == value; });
+    };
     setting.read = [set = setting.set, accept = std::move(accept)](const QString& text) {
         set(accept(text.toInt(nullptr, 10)));
     };

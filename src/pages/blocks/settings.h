@@ -20,6 +20,8 @@ struct Setting
     std::function<void(const QString&)> read;
     /// Puts an accepted value into the control and then into the model.
     std::function<void(double)> set;
+    /// Whether the control can show the value; empty where it shows any.
+    std::function<bool(double)> offers = {};
 };
 
 /// A radio button and the number that it stands for.

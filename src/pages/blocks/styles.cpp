@@ -1,5 +1,7 @@
 #include "pages/blocks/styles.h"
 
+#include "canvas/appearance.h"
+
 namespace {
 
 QString frame(int width, const char* color, int radius, const char* end = ";")
@@ -7,16 +9,6 @@ QString frame(int width, const char* color, int radius, const char* end = ";")
     return QStringLiteral("border-style: outset; border-width: %1px; border-color: %2;border-radius:%3px;"
                           "padding:1px 2px%4")
         .arg(QString::number(width), QLatin1String(color), QString::number(radius), QLatin1String(end));
-}
-
-QString radio(const char* checked, const char* unchecked)
-{
-    return QStringLiteral("QRadioButton{background-color:rgb(222, 235, 246); spacing: 0px;}"
-                          "QRadioButton::indicator:checked {width:12px; height:12px; border-radius:6px; "
-                          "background-color:%1;}"
-                          "QRadioButton::indicator:unchecked {width:10px; height:10px; border-radius:5px; "
-                          "border: 1px solid %2; }")
-        .arg(QLatin1String(checked), QLatin1String(unchecked));
 }
 
 const char blue[] = "rgb(0, 176, 240)";
@@ -51,7 +43,7 @@ STYLE(committedPllEdit, white + frame(1, blue, 1, ";;"))
 STYLE(pendingPllEdit, pale + frame(1, blue, 1, ";;"))
 STYLE(registerValue, QStringLiteral("border:  0px;"))
 STYLE(multiplierBox, frame(1, "rgb(10, 78, 121)", 2, ";;"))
-STYLE(radioOn, radio(blue, blue))
-STYLE(radioOff, radio("gray", "gray"))
+STYLE(radioOn, appearance::radioSheet(blue))
+STYLE(radioOff, appearance::radioSheet("gray"))
 STYLE(blueText, QStringLiteral("color: blue"))
 STYLE(grayText, QStringLiteral("color: gray"))

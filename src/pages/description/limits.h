@@ -33,7 +33,8 @@ struct Limit
     ClockSource clock;
     Bound bound;
     double compared; ///< MHz
-    int shown = 0;   ///< MHz in a refusal; on some series not the number compared, which is meant
+    /// MHz in a refusal. Some series tell another number than they compare: users know the texts so.
+    int shown = 0;
     /// A question that the user may agree to; without it the limit refuses.
     const char* question = nullptr;
 };

@@ -125,7 +125,7 @@ struct PeripheralSource
     /// Part of the member names, "pclk" in m_usart1clocksel_pclk_RadioButton; also the label.
     const char* name;
     ClockSource shown;
-    /// The clock that decides red. On some series it is another than the one shown, which is meant. None is
+    /// The clock that decides red; on some series another than the one shown, as their users know it. None is
     /// never red.
     ClockSource limited = ClockSource::None;
 };
