@@ -8,14 +8,19 @@
 
 namespace {
 
+/// The file beside the picture with another ending.
+QString beside(const QString& picture, const char* ending)
+{
+    return picture.left(picture.lastIndexOf(QLatin1Char('.'))) + QLatin1String(ending);
+}
+
 /// The picture as the screen can show it: with twice the pixels where its own are finer than the desktop's.
 QPixmap pictureFor(qreal pixelRatio, const QString& picture)
 {
     if (pixelRatio <= 1.0)
         return QPixmap(picture);
-    const int suffix = picture.lastIndexOf(QLatin1Char('.'));
     // The suffix tells the reader of images that the logical size is half of the pixels.
-    const QPixmap fine(picture.left(suffix) + QLatin1String("@2x") + picture.mid(suffix));
+    const QPixmap fine(beside(picture, "@2x.bmp"));
     return fine.isNull() ? QPixmap(picture) : fine;
 }
 
@@ -23,7 +28,7 @@ QPixmap pictureFor(qreal pixelRatio, const QString& picture)
 
 ZN64MCUPLL::ZN64MCUPLL(ZN64MCUSERIALS series, const QString& picture, QWidget* parent)
     : ControlFactory(pictureFor(parent ? parent->devicePixelRatioF() : qApp->devicePixelRatio(), picture),
-                     parent),
+                     tree::readPicture(beside(picture, ".figures")), parent),
       m_ZN64ClockConf(std::make_unique<ZN64ConfigCLK>(series))
 {
 }

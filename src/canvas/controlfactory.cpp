@@ -4,7 +4,6 @@
 #include "widgets/look.h"
 
 #include <QCoreApplication>
-#include <QGraphicsPixmapItem>
 #include <QGroupBox>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -54,10 +53,10 @@ private:
 
 } // namespace
 
-ControlFactory::ControlFactory(const QPixmap& picture, QWidget* parent)
+ControlFactory::ControlFactory(const QPixmap& picture, const tree::Picture& figures, QWidget* parent)
     : QWidget(parent), m_GraphicsView(new PinGraphicsView),
       m_GraphicsScene(std::make_unique<QGraphicsScene>()), m_tabOrder(*m_GraphicsScene),
-      m_background(new QGraphicsPixmapItem(picture))
+      m_background(new TreeItem(picture, figures))
 {
     m_GraphicsScene->setBackgroundBrush(QBrush(Qt::white, Qt::SolidPattern));
     m_GraphicsView->setRenderHint(QPainter::Antialiasing, true);
@@ -69,7 +68,6 @@ ControlFactory::ControlFactory(const QPixmap& picture, QWidget* parent)
     m_GraphicsView->horizontalScrollBar()->setStyleSheet(
         look::scrollBarSheet(QStringLiteral("height: 12px;")));
 
-    m_background->setTransformationMode(Qt::SmoothTransformation);
     m_GraphicsScene->addItem(m_background);
     m_GraphicsView->SetPixMapItem(m_background);
     fitScene();

@@ -3,6 +3,7 @@
 #include "canvas/CustomQControl.h"
 #include "canvas/pingraphicsview.h"
 #include "canvas/taborder.h"
+#include "canvas/treeitem.h"
 
 #include <QDialog>
 #include <QGraphicsProxyWidget>
@@ -22,7 +23,8 @@ class ControlFactory : public QWidget
     Q_OBJECT
 
 public:
-    ControlFactory(const QPixmap& picture, QWidget* parent);
+    /// The picture gives the scene its size; the figures are what is seen of it.
+    ControlFactory(const QPixmap& picture, const tree::Picture& figures, QWidget* parent);
     ~ControlFactory() override;
 
     PinGraphicsView* view() const { return m_GraphicsView; }
@@ -60,5 +62,5 @@ private:
     PinGraphicsView* m_GraphicsView;
     std::unique_ptr<QGraphicsScene> m_GraphicsScene;
     TabOrder m_tabOrder;
-    QGraphicsPixmapItem* m_background;
+    TreeItem* m_background;
 };

@@ -1,5 +1,6 @@
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
+#include "tree/drawing.h"
 #include "treepainter/builder.h"
 #include "treepainter/pagelayout.h"
 #include "treepainter/picture.h"
@@ -9,7 +10,9 @@
 #include <QDir>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsView>
+#include <QPainter>
 #include <QProcess>
+#include <QStyleOptionGraphicsItem>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -27,6 +30,8 @@ private slots:
     void doubledPictures_data();
     void doubledPictures();
     void refusedTree();
+    void sharpAtEveryZoom_data();
+    void sharpAtEveryZoom();
 };
 
 Q_DECLARE_METATYPE(ZN64MCUSERIALS)
@@ -94,7 +99,7 @@ void TestPictures::fitTheirPages()
             // Behind the last letter of a label there is room to spare.
             const QRectF rect =
                 control.kind == ControlKind::Label ? control.rect.adjusted(0, 0, -2, 0) : control.rect;
-            const QString other = otherPixel(picture, rect, radio ? muxGround : qRgb(255, 255, 255));
+            const QString other = otherPixel(picture, rect, radio ? tree::muxGround : qRgb(255, 255, 255));
             QVERIFY2(other.isEmpty(), qPrintable(control.name + QLatin1String(": ") + other));
         }
     }
@@ -182,6 +187,56 @@ void TestPictures::refusedTree()
           "systick.tree: No such file or directory\n", "G110: no wire ends at m_tosystick_lineEdit\n"})
         QVERIFY2(told.contains(QLatin1String(fault)), qPrintable(told));
     QVERIFY(!QFile::exists(bitmap));
+}
+
+void TestPictures::sharpAtEveryZoom_data()
+{
+    QTest::addColumn<double>("zoom");
+    for (const double zoom : {0.5, 0.97, 1.0, 1.25, 1.5, 2.37, 5.0})
+        QTest::addRow("%g", zoom) << zoom;
+}
+
+/// Across every long straight piece, where no dot stands, of a wire there are whole pixels of ink on white,
+/// and of no shade.
+void TestPictures::sharpAtEveryZoom()
+{
+    QFETCH(double, zoom);
+    const QScopedPointer<ClockTreePage> page(createSeriesPage(ZN64G110, nullptr));
+    const tree::Picture figures = tree::readPicture(QStringLiteral(":/image/G110PLL.figures"));
+    QImage seen((QSizeF(figures.size) * zoom).toSize(), QImage::Format_RGB32);
+    seen.fill(Qt::white);
+    QPainter painter(&seen);
+    painter.scale(zoom, zoom);
+    for (QGraphicsItem* item : page->view()->scene()->items())
+        if (auto* background = qgraphicsitem_cast<QGraphicsPixmapItem*>(item)) {
+            QStyleOptionGraphicsItem option;
+            option.exposedRect = background->boundingRect();
+            background->paint(&painter, &option, nullptr);
+        }
+    painter.end();
+    if (qEnvironmentVariableIsSet("CLOCKWRIGHT_PICTURES"))
+        QVERIFY(seen.save(qEnvironmentVariable("CLOCKWRIGHT_PICTURES") + QString::number(zoom) +
+                          QStringLiteral(".png")));
+
+    constexpr QRgb ink = qRgb(0, 32, 82);
+    int pieces = 0;
+    for (const tree::Wire& wire : figures.wires)
+        for (int i = 1; i < wire.points.size(); ++i) {
+            const QLineF piece(wire.points[i - 1], wire.points[i]);
+            if (piece.length() < 60 || piece.dy() != 0 || !wire.hops.isEmpty())
+                continue;
+            const QPoint middle = (piece.pointAt(0.31) * zoom).toPoint();
+            const int reach = qMax(3, qRound(2 * wire.width * zoom));
+            int inked = 0;
+            for (int y = middle.y() - reach; y <= middle.y() + reach; ++y) {
+                const QRgb color = seen.pixel(middle.x(), y);
+                inked += color == ink;
+                QVERIFY2(color == ink || color == qRgb(255, 255, 255), qPrintable(wire.from + wire.to));
+            }
+            QCOMPARE(inked, qMax(1, qRound(wire.width * zoom)));
+            ++pieces;
+        }
+    QVERIFY(pieces > 10);
 }
 
 int main(int argc, char* argv[])

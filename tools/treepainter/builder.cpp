@@ -202,15 +202,6 @@ QSizeF extentOf(const QString& text, const QFont& font)
     return {metrics.horizontalAdvance(text), metrics.height()};
 }
 
-QFont captionFont(Style style)
-{
-    QFont font(QStringLiteral("Arial"), style == Style::Region ? 11 : 9);
-    if (style == Style::Bus)
-        font.setBold(true);
-    font.setStyleStrategy(QFont::NoSubpixelAntialias);
-    return font;
-}
-
 Drawing buildDrawing(const std::vector<Statement>& statements, PageLayout& page, Problems& problems)
 {
     Drawing drawing;

@@ -2,11 +2,10 @@
 
 #include "drawing.h"
 #include "pagelayout.h"
+#include "tree/drawing.h"
 
 /// The size of a text in pixels.
 QSizeF extentOf(const QString& text, const QFont& font);
-/// The font of what the painter writes.
-QFont captionFont(Style style = Style::Plain);
 
 /// Places everything that the statements ask for. A statement that cannot be drawn is left out and told.
 /// Labels of the page that start empty get the room of a full value, or of the text in their "room" line.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tree/figures.h"
 #include "treetext.h"
 
 #include <QHash>
@@ -82,21 +83,13 @@ struct Crystal
     std::vector<QPolygonF> leads;
 };
 
-enum class Style
-{
-    Plain,
-    Bus,    ///< the name of a bus bar
-    Region, ///< the quiet title of a part of the picture
-    Frame   ///< the quiet title in the line of a frame
-};
-
 /// A text on the picture.
 struct Caption
 {
     SourceLine source;
     QRectF rect;
     QString text;
-    Style style = Style::Plain;
+    tree::Style style = tree::Style::Plain;
 };
 
 /// What stands at an end of a wire.

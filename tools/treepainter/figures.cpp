@@ -35,7 +35,7 @@ QRectF around(const QPointF& middle, double width, double height)
 /// A frame around a text. An even width and height put it on whole pixels around a middle that lies on one.
 QRectF framed(const QString& text, const QPointF& middle)
 {
-    const double textWidth = extentOf(text, captionFont()).width();
+    const double textWidth = extentOf(text, tree::captionFont()).width();
     return around(middle, 2 * std::ceil(textWidth / 2 + boxTextMargin), boxHeight);
 }
 
@@ -174,13 +174,13 @@ void TreeBuilder::addFrame(const Statement& statement)
     const QString title = statement.words.first().text;
     m_drawing.frames.push_back({statement.source, rect});
     // The title interrupts the upper line.
-    const QSizeF extent = extentOf(title, captionFont(Style::Frame));
+    const QSizeF extent = extentOf(title, tree::captionFont(tree::Style::Frame));
     const double width = 2 * std::ceil(extent.width() / 2 + frameTitleMargin);
     m_drawing.captions.push_back({
         statement.source,
         {rect.left() + frameTitleRight, rect.top() - std::ceil(extent.height() / 2), width, extent.height()},
         title,
-        Style::Frame
+        tree::Style::Frame
     });
 }
 
@@ -215,8 +215,9 @@ void TreeBuilder::addText(const Statement& statement)
 {
     needWords(statement, 3);
     const QString text = statement.words[2].text;
-    const Style style = statement.keyword == QLatin1String("region") ? Style::Region : Style::Plain;
-    const QSizeF extent = extentOf(text, captionFont(style));
+    const tree::Style style =
+        statement.keyword == QLatin1String("region") ? tree::Style::Region : tree::Style::Plain;
+    const QSizeF extent = extentOf(text, tree::captionFont(style));
     m_drawing.captions.push_back({statement.source,
                                   around(point(statement), std::ceil(extent.width()), extent.height()), text,
                                   style});

@@ -12,6 +12,8 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDataStream>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontInfo>
 
@@ -33,11 +35,24 @@ void tellFont()
         say(QStringLiteral("Arial is drawn as %1: install the Liberation fonts").arg(family));
 }
 
-/// "G110PLL.bmp" -> "G110PLL@2x.bmp", the name that tells image readers of the pixel ratio.
-QString doubledName(const QString& output)
+/// "G110PLL.bmp" -> "G110PLL@2x.bmp", the name that tells image readers of the pixel ratio, or
+/// "G110PLL.figures".
+QString besides(const QString& output, const char* ending)
 {
     const QFileInfo file(output);
-    return file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("@2x.") + file.suffix();
+    return file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String(ending);
+}
+
+bool save(const tree::Picture& figures, const QString& path)
+{
+    QFile file(path);
+    QDataStream stream(&file);
+    if (file.open(QIODevice::WriteOnly))
+        stream << figures;
+    if (file.isOpen() && stream.status() == QDataStream::Ok && file.flush())
+        return true;
+    say(QStringLiteral("%1 cannot be written").arg(path));
+    return false;
 }
 
 bool save(const QImage& picture, const QString& path)
@@ -88,8 +103,9 @@ int paint(ClockTreePage& page, const Task& task)
         });
     for (const Problem& problem : problems)
         say(problem.text());
-    const QImage picture = paintPicture(drawing, all.size);
-    const QImage doubled = paintPicture(drawing, all.size, 2);
+    const tree::Picture figures = pictureOf(drawing, all.size);
+    const QImage picture = paintPicture(figures);
+    const QImage doubled = paintPicture(figures, 2);
     if (!task.review.isEmpty() && !writeReview(page, picture, doubled, task.review)) {
         say(QStringLiteral("%1 cannot be written").arg(task.review));
         return 1;
@@ -98,7 +114,10 @@ int paint(ClockTreePage& page, const Task& task)
         tellFont();
         return 1;
     }
-    return save(picture, task.output) && save(doubled, doubledName(task.output)) ? 0 : 1;
+    return save(picture, task.output) && save(doubled, besides(task.output, "@2x.bmp")) &&
+                   save(figures, besides(task.output, ".figures"))
+               ? 0
+               : 1;
 }
 
 /// Paints the series' tree; without a task it lists what the page holds.
@@ -148,8 +167,9 @@ int main(int argc, char* argv[])
     arguments.addPositionalArgument(
         QStringLiteral("pages"),
         QStringLiteral("The folder of the pages, with the texts of the trees' parts."));
-    arguments.addPositionalArgument(QStringLiteral("output"),
-                                    QStringLiteral("The bitmap to write, and beside it its @2x."));
+    arguments.addPositionalArgument(
+        QStringLiteral("output"),
+        QStringLiteral("The bitmap to write, and beside it its @2x and its figures."));
     const QCommandLineOption review(
         QStringLiteral("review"),
         QStringLiteral("Also write the page with its picture to <base>-100.png and "

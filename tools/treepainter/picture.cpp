@@ -1,27 +1,17 @@
 #include "picture.h"
 
-#include "builder.h"
 #include "checks.h"
+#include "tree/drawing.h"
 
 #include <QHash>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 
 namespace {
 
-const QColor ink(0, 32, 82);
-const QColor muxFrame(57, 169, 220);
-// The frame of the pages' own boxes with a fixed step.
-const QColor boxFrame(10, 78, 121);
-// Beside blocks that are on and blocks that are grey.
-const QColor quietInk(104, 128, 158);
-const QColor regionInk(150, 168, 190);
-
 // Pixels.
 constexpr double hopRoom = 3.5;
-constexpr double idleBarHalf = 4;
 constexpr double tagTip = 7;
 constexpr double padInset = 2.5;
 constexpr double crystalPlateHalf = 6;
@@ -31,166 +21,97 @@ constexpr double crystalPlateDistance = 6.5;
 
 constexpr int mostColors = 256;
 
-QPen wirePen(double width, const QColor& color = ink)
+/// Where the horizontal segments of the wire hop over wires of other signals, along the wire.
+QVector<tree::Hop> hopsOf(const Wire& wire, const Drawing& drawing)
 {
-    return {color, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
-}
-
-/// An arrowhead grows with its wire, but less.
-QSizeF arrowOf(const Wire& wire)
-{
-    return wire.width > weight::branch ? QSizeF(10, 9) : QSizeF(8, 6);
-}
-
-/// The unit vector along the wire at its last piece.
-QPointF arrival(const Wire& wire)
-{
-    const QPointF way = wire.points.last() - wire.points[wire.points.size() - 2];
-    return way / way.manhattanLength();
-}
-
-/// A hop over a wire of another signal.
-struct Hop
-{
-    double x;
-    double radius;
-};
-
-/// Where the horizontal segment hops over wires of other signals, in its own direction.
-std::vector<Hop> hopsOf(const Segment& segment, const Drawing& drawing)
-{
-    std::vector<Hop> hops;
-    if (!segment.isHorizontal())
-        return hops;
-    for (const Wire& wire : drawing.wires) {
-        for (const Segment& other : segmentsOf(wire.points)) {
-            if (crosses(segment, other))
-                hops.push_back({other.from.x(), wire.width / 2 + hopRoom});
-        }
+    QVector<tree::Hop> all;
+    const std::vector<Segment> segments = segmentsOf(wire.points);
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        if (!segments[i].isHorizontal())
+            continue;
+        QVector<tree::Hop> hops;
+        for (const Wire& other : drawing.wires)
+            for (const Segment& crossed : segmentsOf(other.points))
+                if (crosses(segments[i], crossed))
+                    hops.push_back({static_cast<int>(i), crossed.from.x(), other.width / 2 + hopRoom});
+        std::sort(hops.begin(), hops.end(),
+                  [](const tree::Hop& one, const tree::Hop& two) { return one.x < two.x; });
+        if (segments[i].to.x() < segments[i].from.x())
+            std::reverse(hops.begin(), hops.end());
+        all += hops;
     }
-    std::sort(hops.begin(), hops.end(), [](const Hop& one, const Hop& two) { return one.x < two.x; });
-    if (segment.to.x() < segment.from.x())
-        std::reverse(hops.begin(), hops.end());
-    return hops;
+    return all;
 }
 
-QPainterPath pathOf(const Wire& wire, const Drawing& drawing)
+tree::Ends endsOf(WireEnd end)
 {
-    QPolygonF points = wire.points;
-    if (wire.end == WireEnd::Arrow)
-        points.last() -= arrival(wire) * (arrowOf(wire).width() - 1);
-    QPainterPath path(points.first());
-    for (const Segment& segment : segmentsOf(points)) {
-        const bool rightward = segment.to.x() > segment.from.x();
-        for (const Hop& hop : hopsOf(segment, drawing)) {
-            const QPointF corner(hop.radius, hop.radius);
-            const QPointF middle(hop.x, segment.from.y());
-            const QRectF circle(middle - corner, middle + corner);
-            path.arcTo(circle, rightward ? 180 : 0, rightward ? -180 : 180);
-        }
-        path.lineTo(segment.to);
+    switch (end) {
+    case WireEnd::Arrow:
+        return tree::Ends::Arrow;
+    case WireEnd::Idle:
+        return tree::Ends::Idle;
+    case WireEnd::Plain:
+        break;
     }
-    return path;
+    return tree::Ends::Plain;
 }
 
-void paintArrow(QPainter& painter, const Wire& wire)
+tree::Wire wireOf(const Wire& wire, const Drawing& drawing)
 {
-    const QSizeF size = arrowOf(wire);
-    const QPointF way = arrival(wire);
-    const QPointF across = QPointF(-way.y(), way.x()) * (size.height() / 2);
-    const QPointF tip = wire.points.last();
-    const QPointF base = tip - way * size.width();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ink);
-    painter.drawPolygon(QPolygonF{
-        {tip, base + across, base - across}
-    });
+    return {wire.name,  wire.from, wire.to,         wire.points, hopsOf(wire, drawing),
+            wire.width, wire.dot,  endsOf(wire.end)};
 }
 
-/// The bar that closes an input which nothing feeds.
-void paintIdleEnd(QPainter& painter, const Wire& wire)
+/// Four corners without the first again at the end.
+QPolygonF corners(const QRectF& rect)
 {
-    const QPointF end = wire.points.first();
-    painter.setPen(wirePen(wire.width));
-    painter.drawLine(end - QPointF(0, idleBarHalf), end + QPointF(0, idleBarHalf));
+    return QVector<QPointF>{rect.topLeft(), rect.topRight(), rect.bottomRight(), rect.bottomLeft()};
 }
 
-void paintWire(QPainter& painter, const Wire& wire, const Drawing& drawing)
+tree::Figure figure(tree::Shape shape, const QString& name, const QPolygonF& outline,
+                    const QString& text = {})
 {
-    if (wire.width == weight::bar)
-        return;
-    painter.strokePath(pathOf(wire, drawing), wirePen(wire.width));
-    if (wire.end == WireEnd::Idle)
-        paintIdleEnd(painter, wire);
-    if (wire.end == WireEnd::Arrow)
-        paintArrow(painter, wire);
-    if (wire.dot == 0)
-        return;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ink);
-    painter.drawEllipse(wire.points.first(), wire.dot, wire.dot);
+    return {shape, name, outline, false, {}, text};
 }
 
-/// A hollow bar: the spine runs into it, the branches come out of it.
-void paintBar(QPainter& painter, const QRectF& bar)
+tree::Figure crystalOf(const Crystal& crystal)
 {
-    painter.setPen(QPen(ink, 1));
-    painter.setBrush(QColor(muxGround));
-    painter.drawRect(bar.adjusted(0.5, 0.5, -0.5, -0.5));
-}
-
-void paintCrystal(QPainter& painter, const Crystal& crystal)
-{
-    painter.setBrush(Qt::white);
-    painter.setPen(wirePen(1, quietInk));
+    const QPointF corner(crystalBodyHalfWidth, crystalBodyHalfHeight);
+    tree::Figure figure{tree::Shape::Crystal,
+                        {},
+                        corners(QRectF(crystal.middle - corner, crystal.middle + corner)),
+                        false,
+                        {},
+                        {}};
     for (const QPolygonF& lead : crystal.leads) {
-        painter.drawPolyline(lead);
         const double level = lead.last().y();
         const double side = level < crystal.middle.y() ? -1 : 1;
         const QPointF plate = crystal.middle + QPointF(0, side * crystalPlateDistance);
-        painter.drawLine(QPointF(plate.x(), level), plate);
-        painter.drawLine(plate - QPointF(crystalPlateHalf, 0), plate + QPointF(crystalPlateHalf, 0));
+        const QPointF half(crystalPlateHalf, 0);
+        figure.lines.push_back(lead);
+        figure.lines.push_back(QVector<QPointF>{
+            {plate.x(), level},
+            plate
+        });
+        figure.lines.push_back(QVector<QPointF>{plate - half, plate + half});
     }
-    const QPointF corner(crystalBodyHalfWidth, crystalBodyHalfHeight);
-    painter.drawRect(QRectF(crystal.middle - corner, crystal.middle + corner));
-}
-
-void paintFrame(QPainter& painter, const Frame& frame)
-{
-    painter.setPen(QPen(regionInk, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(frame.rect.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-}
-
-void paintMux(QPainter& painter, const Mux& mux)
-{
-    painter.setPen(QPen(muxFrame, 1));
-    painter.setBrush(QColor(muxGround));
-    painter.drawPolygon(mux.outline);
-}
-
-void paintBox(QPainter& painter, const Box& box)
-{
-    painter.setPen(QPen(boxFrame, 1));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(box.rect, 2, 2);
-    painter.setPen(ink);
-    painter.drawText(box.rect, Qt::AlignCenter, box.text);
+    return figure;
 }
 
 /// A square with its diagonals, the sign of a pin.
-void paintPad(QPainter& painter, const Pad& pad)
+tree::Figure padOf(const Pad& pad)
 {
-    painter.setPen(QPen(ink, 1));
-    painter.setBrush(QColor(muxGround));
-    painter.drawRect(pad.rect);
+    tree::Figure sign = figure(tree::Shape::Pad, pad.name, corners(pad.rect));
     const QRectF cross = pad.rect.adjusted(padInset, padInset, -padInset, -padInset);
-    painter.drawLine(cross.topLeft(), cross.bottomRight());
-    painter.drawLine(cross.topRight(), cross.bottomLeft());
+    sign.lines = {
+        QVector<QPointF>{cross.topLeft(),  cross.bottomRight()},
+        QVector<QPointF>{cross.topRight(), cross.bottomLeft() }
+    };
+    return sign;
 }
 
 /// A flag with its tip at the level of its wire.
-void paintTag(QPainter& painter, const Tag& tag)
+tree::Figure flagOf(const Tag& tag)
 {
     const QRectF rect = lineOf(tag);
     QPolygonF outline;
@@ -200,21 +121,7 @@ void paintTag(QPainter& painter, const Tag& tag)
     else
         outline << rect.topLeft() << rect.topRight() - QPointF(tagTip, 0) << QPointF(rect.right(), tag.level)
                 << rect.bottomRight() - QPointF(tagTip, 0) << rect.bottomLeft();
-    painter.setPen(QPen(quietInk, 1));
-    painter.setBrush(Qt::white);
-    tag.open ? painter.drawPolyline(outline) : painter.drawPolygon(outline);
-    painter.setPen(ink);
-    painter.drawText(rect, Qt::AlignCenter, tag.text);
-}
-
-void paintCaption(QPainter& painter, const Caption& caption)
-{
-    const bool quiet = caption.style == Style::Region || caption.style == Style::Frame;
-    if (caption.style == Style::Frame)
-        painter.fillRect(caption.rect, Qt::white);
-    painter.setFont(captionFont(caption.style));
-    painter.setPen(quiet ? regionInk : ink);
-    painter.drawText(caption.rect, Qt::AlignCenter, caption.text);
+    return {tree::Shape::Flag, tag.name + tag.label, outline, tag.open, {}, tag.text};
 }
 
 /// The colours of the image, the most frequent first.
@@ -269,34 +176,42 @@ QImage indexed(const QImage& image)
 
 } // namespace
 
-QImage paintPicture(const Drawing& drawing, const QSize& size, int scale)
+tree::Picture pictureOf(const Drawing& drawing, const QSize& size)
 {
-    QImage image(size * scale, QImage::Format_RGB32);
+    tree::Picture picture;
+    picture.size = size;
+    for (const Frame& frame : drawing.frames)
+        picture.below.push_back(
+            figure(tree::Shape::Frame, {}, corners(frame.rect.adjusted(0.5, 0.5, -0.5, -0.5))));
+    for (const Mux& mux : drawing.muxes)
+        picture.below.push_back(figure(tree::Shape::Mux, mux.name, mux.outline));
+    for (const Crystal& crystal : drawing.crystals)
+        picture.below.push_back(crystalOf(crystal));
+    for (const Wire& wire : drawing.wires)
+        if (wire.width != weight::bar)
+            picture.wires.push_back(wireOf(wire, drawing));
+    for (const QRectF& bar : drawing.bars)
+        picture.above.push_back(figure(tree::Shape::Bar, {}, corners(bar.adjusted(0.5, 0.5, -0.5, -0.5))));
+    for (const Box& box : drawing.boxes)
+        picture.above.push_back(figure(tree::Shape::Box, box.name, corners(box.rect), box.text));
+    for (const Pad& pad : drawing.pads)
+        picture.above.push_back(padOf(pad));
+    for (const Tag& tag : drawing.tags)
+        picture.above.push_back(flagOf(tag));
+    for (const Caption& caption : drawing.captions)
+        picture.captions.push_back({caption.rect, caption.text, caption.style});
+    return picture;
+}
+
+QImage paintPicture(const tree::Picture& picture, int scale)
+{
+    QImage image(picture.size * scale, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(scale, scale);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(captionFont());
-    for (const Frame& frame : drawing.frames)
-        paintFrame(painter, frame);
-    for (const Mux& mux : drawing.muxes)
-        paintMux(painter, mux);
-    for (const Crystal& crystal : drawing.crystals)
-        paintCrystal(painter, crystal);
-    for (const Wire& wire : drawing.wires)
-        paintWire(painter, wire, drawing);
-    for (const QRectF& bar : drawing.bars)
-        paintBar(painter, bar);
-    for (const Box& box : drawing.boxes)
-        paintBox(painter, box);
-    for (const Pad& pad : drawing.pads)
-        paintPad(painter, pad);
-    for (const Tag& tag : drawing.tags)
-        paintTag(painter, tag);
-    for (const Caption& caption : drawing.captions)
-        paintCaption(painter, caption);
+    tree::draw(painter, picture, QRectF(QPointF(), picture.size));
     painter.end();
-    QImage picture = indexed(image);
-    picture.setDevicePixelRatio(scale);
-    return picture;
+    QImage small = indexed(image);
+    small.setDevicePixelRatio(scale);
+    return small;
 }

@@ -163,10 +163,10 @@ void TreeBuilder::addFan(const Statement& statement)
         append(statement, statement.name, QVector<QPointF>{joint, end.point},
                {joint, std::nullopt, 0, 0, {}, from.net}, end);
     }
-    const QSizeF extent = extentOf(statement.words.first().text, captionFont(Style::Bus));
+    const QSizeF extent = extentOf(statement.words.first().text, tree::captionFont(tree::Style::Bus));
     const double top = *std::min_element(rows.begin(), rows.end()) - barOverhang - busNameGap;
     const double width = 2 * std::ceil(extent.width() / 2);
     m_drawing.captions.push_back({statement.source,
                                   QRectF(x - width / 2, top - extent.height(), width, extent.height()),
-                                  statement.words.first().text, Style::Bus});
+                                  statement.words.first().text, tree::Style::Bus});
 }
