@@ -19,7 +19,7 @@ lists() {
     mkdir -p "$2"
     for word in $words; do
         QT_QPA_PLATFORM=offscreen "$1/bin/treepainter" --list "$word" 2>/dev/null >"$2/$word.txt" ||
-            say "$word has no inventory in $2"
+            die "there is no inventory of $word by $1"
     done
 }
 
@@ -36,7 +36,9 @@ painter "$before/tree" "$before/build"
 painter . build/release
 lists "$before/build" "$before/then"
 lists build/release "$before/now"
-if diff -U0 -r "$before/then" "$before/now" | grep -v '^@@'; then
+changes=$(diff -U0 -r "$before/then" "$before/now" | grep -v '^@@' || true)
+if [ -n "$changes" ]; then
+    printf '%s\n' "$changes"
     say "These lines differ from $commit"
 else
     say "Nothing differs from $commit"

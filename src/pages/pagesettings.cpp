@@ -35,8 +35,13 @@ void ClockTreePage::orderSettings()
     for (const SettingRow& row : settingRows(m_description))
         if (m_settings.contains(row.name))
             m_startOrder.push_back(row);
-    if (m_startOrder.size() != static_cast<std::size_t>(m_settings.size()))
-        qFatal("a setting of the page has no row: it has %s", qPrintable(m_settings.keys().join(u' ')));
+    for (const QString& name : m_settings.keys())
+        if (std::none_of(m_startOrder.begin(), m_startOrder.end(),
+                         [&name](const SettingRow& row) { return row.name == name; }))
+            qFatal("the setting %s has no row", qPrintable(name));
+    for (const StartValue& own : m_description.start)
+        if (!m_settings.contains(QLatin1String(own.setting)))
+            qFatal("%s starts %s, which it does not have", qPrintable(m_description.word()), own.setting);
     for (const SettingRow& row : m_startOrder) {
         const Setting& setting = m_settings[row.name];
         if (setting.offers && !setting.offers(row.start))
@@ -52,7 +57,7 @@ void ClockTreePage::setFieldsWithoutControl()
     if (!m_description.pllModes())
         model().Set_ConfigMode(m_description.pllMultiplier() ? PLLMODE_NORMAL : PLLMODE_FLEXIBLE);
     if (m_description.pllHextDivider() && !m_settings.contains(QStringLiteral("hextdiv")))
-        model().Set_HEXT_DIV(2);
+        model().Set_HEXT_DIV(fixedHextDivisor);
     if (m_description.usb && !m_description.usb->hickRoute)
         model().Set_HICK_TO_USB(HICK_TO_USB_DISABLE);
     if (!m_description.hickToSclk())

@@ -161,7 +161,8 @@ void TestTrees::joins_data()
     row("?sdio tag low: right x=270 y=144 \"low\"\n?!sdio chain switch apb\n?sdio ?!m_lost chain result low",
         "result low 144");
     row("clockout clockout9", "t.tree:1: the page has no radio buttons m_clockout9_...");
-    row("fan ahb: \"AHB\"", "t.tree:1: no wire ahb above this line stops free");
+    row("chain y=138 switch result apb", "t.tree:1: the row y=138.5 misses apb");
+    row("fan ahb: \"AHB\"", "t.tree:1: no wire ahb stops free");
 }
 
 void TestTrees::joins()
@@ -329,6 +330,8 @@ void TestTrees::grid_data()
     row("a title close to the nose", "title", QRectF(60, 95, 30, 16), "",
         "t.tree:1: the nose of mux i2c1 is 5.5 off its middle");
     row("allowed", "title", QRectF(60, 95, 30, 16), "allow i2c1 nose", "");
+    row("a title a little over the edge", "title", QRectF(60, 97, 30, 16), "",
+        "t.tree:1: the nose of mux i2c1 is 4.5 off its middle");
     row("the next block's field", "m_other_Label", QRectF(0, 137, 5, 15), "",
         "t.tree:1: the gutter between m_other_Label and tag m_i2c1_hick_QLabel is 2");
     row("a label at the edge", "m_other_Label", QRectF(94, 120, 20, 15), "",

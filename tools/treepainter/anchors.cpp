@@ -206,7 +206,7 @@ Anchor Anchors::branch(const QString& name, const QString& place) const
                 return {point, std::nullopt, 0, 0, {}, wire.net, dotOn(wire)};
         }
     }
-    throw TreeError(QStringLiteral("no wire %1 above this line passes %2").arg(name, place));
+    throw TreeError(QStringLiteral("no wire %1 passes %2").arg(name, place));
 }
 
 Anchor Anchors::anchor(const QString& text) const

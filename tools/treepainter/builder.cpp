@@ -25,19 +25,22 @@ bool isWired(const Statement& statement)
     return keywords.contains(statement.keyword);
 }
 
-std::optional<QString> faultOf(TreeBuilder& builder, const Statement& statement)
+/// What is wrong with the statement, which then leaves nothing behind.
+std::optional<QString> faultOf(TreeBuilder& builder, Drawing& drawing, const Statement& statement)
 {
+    const Drawing before = drawing;
     try {
         builder.add(statement);
         return std::nullopt;
     } catch (const TreeError& error) {
+        drawing = before;
         return error.message();
     }
 }
 
 /// A wire may branch off one of another part, whatever the order of the parts: what cannot be drawn yet is
 /// tried again while anything else can.
-void drawWires(TreeBuilder& builder, std::vector<Statement> wires, Problems& problems)
+void drawWires(TreeBuilder& builder, Drawing& drawing, std::vector<Statement> wires, Problems& problems)
 {
     Problems faults;
     for (std::size_t before = wires.size() + 1; !wires.empty() && wires.size() < before;) {
@@ -45,7 +48,7 @@ void drawWires(TreeBuilder& builder, std::vector<Statement> wires, Problems& pro
         faults.clear();
         std::vector<Statement> rest;
         for (const Statement& statement : wires)
-            if (const std::optional<QString> fault = faultOf(builder, statement)) {
+            if (const std::optional<QString> fault = faultOf(builder, drawing, statement)) {
                 faults.push_back({statement.source, *fault});
                 rest.push_back(statement);
             }
@@ -214,9 +217,9 @@ Drawing buildDrawing(const std::vector<Statement>& statements, PageLayout& page,
     for (const Statement& statement : statements)
         if (isWired(statement))
             wires.push_back(statement);
-        else if (const std::optional<QString> fault = faultOf(builder, statement))
+        else if (const std::optional<QString> fault = faultOf(builder, drawing, statement))
             problems.push_back({statement.source, *fault});
-    drawWires(builder, wires, problems);
+    drawWires(builder, drawing, wires, problems);
     builder.shapeMuxes();
     builder.checkJoints(problems);
     return drawing;

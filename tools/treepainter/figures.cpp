@@ -49,7 +49,7 @@ void balance(QRectF& mux, double nose, const std::optional<QRectF>& title)
         mux.setBottom(nose + half);
         return;
     }
-    const bool above = title->bottom() <= mux.top();
+    const bool above = title->center().y() < nose;
     const double reach = (above ? nose - title->bottom() : title->top() - nose) - titleGap;
     if (reach >= half) {
         mux.setTop(nose - reach);

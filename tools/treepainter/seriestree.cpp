@@ -33,6 +33,8 @@ Statement adapted(Statement statement, const PageDescription& page)
         else
             word.text.replace(QLatin1String("m_hext_lineEdit"), spelling);
     }
+    for (QString& condition : statement.conditions)
+        condition.replace(QLatin1String("m_hext_lineEdit"), spelling);
     return statement;
 }
 

@@ -3,6 +3,8 @@
 #include "chain.h"
 #include "route.h"
 
+#include <QMap>
+
 /// Places what the statements of one tree ask for, statement by statement. Everything throws TreeError on a
 /// statement that cannot be drawn.
 class TreeBuilder
@@ -75,7 +77,7 @@ private:
     Drawing& m_drawing;
     Anchors m_anchors;
     QHash<QString, QVector<Word>> m_steps; ///< of rows, by name
-    QHash<QString, SourceLine> m_given;    ///< what leaves a part, by name
+    QMap<QString, SourceLine> m_given;     ///< what leaves a part, by name
     std::vector<std::pair<SourceLine, QString>> m_needed;
 };
 

@@ -20,7 +20,7 @@ struct Problem
 {
     SourceLine source;
     QString message;
-    /// "G110.tree:12: message", the form in which compilers tell.
+    /// "hext.tree:12: message", the form in which compilers tell.
     QString text() const;
 };
 using Problems = std::vector<Problem>;

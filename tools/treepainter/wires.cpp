@@ -114,7 +114,8 @@ void TreeBuilder::joinInRow(const Chain& chain, const Statement& statement)
         uncovered -= QSet<QString>(wire.behind.begin(), wire.behind.end());
     }
     if (!uncovered.isEmpty())
-        throw TreeError(QStringLiteral("no wire of the row passes %1").arg(*uncovered.begin()));
+        throw TreeError(QStringLiteral("no wire of the row passes %1")
+                            .arg(*std::min_element(uncovered.begin(), uncovered.end())));
 }
 
 void TreeBuilder::addBar(const Statement& statement, const Wire& trunk, const QVector<double>& rows)
@@ -141,7 +142,7 @@ void TreeBuilder::addFan(const Statement& statement)
             return wire.name == statement.name && wire.to.isEmpty() && wire.end == WireEnd::Arrow;
         });
     if (trunk == m_drawing.wires.end())
-        throw TreeError(QStringLiteral("no wire %1 above this line stops free").arg(statement.name));
+        throw TreeError(QStringLiteral("no wire %1 stops free").arg(statement.name));
     if (statement.words.isEmpty() || !statement.words.first().quoted)
         throw TreeError(QStringLiteral("fan takes the name to write at the bus bar"));
     trunk->end = WireEnd::Plain;

@@ -1,6 +1,7 @@
 #include "pages/blocks/BusesBlock.h"
 
 #include "canvas/appearance.h"
+#include "pages/description/outputs.h"
 
 namespace {
 
@@ -26,7 +27,8 @@ void BusesBlock::New_totmrmultiply()
     // Not in design files: the multipliers follow from the dividers. The reset starts them at 1.
     Setting setting;
     setting.set = [this](double multiplier) {
-        m_tosystick_div->setText(QStringLiteral("/ 8"));
+        m_tosystick_div->setText(
+            QStringLiteral("/ %1").arg(outputEntry(QStringLiteral("m_tosystick_lineEdit")).divisor));
         m_toapb1tmr_mul->setText(multiplierText(static_cast<int>(multiplier)));
         m_toapb2tmr_mul->setText(multiplierText(static_cast<int>(multiplier)));
         model().Set_APB1TMR_MUL(static_cast<int>(multiplier));

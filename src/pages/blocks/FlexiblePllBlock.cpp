@@ -73,6 +73,7 @@ Setting FlexiblePllBlock::parameterSetting(const Parameter& parameter)
     Setting setting = settings::whole(
         model(), parameter.field, [&parameter](double value) { parameter.write(static_cast<int>(value)); },
         settings::unchecked());
+    setting.offers = [&parameter](double value) { return parameter.inRange(static_cast<int>(value)); };
     setting.read = [this, &parameter](const QString& text) {
         const int value = text.toInt(nullptr, 10);
         const bool good = parameter.inRange(value);

@@ -39,6 +39,7 @@ Setting HighSpeedBlock::hextSetting()
         model().Set_Hext_Input_Value(hext);
         m_hext_lineEdit->setText(QString::number(hext));
     };
+    setting.offers = inputlimits::hextInRange;
     return setting;
 }
 

@@ -28,6 +28,9 @@ Setting PllMultiplierBlock::multiplierSetting()
             m_pllmult_ComboBox->setCurrentIndex(static_cast<int>(multiplier) - firstMultiplier);
         },
         settings::unchecked());
+    setting.offers = [this](double multiplier) {
+        return multiplier >= firstMultiplier && multiplier < firstMultiplier + m_pllmult_ComboBox->count();
+    };
     // The model follows through the combo's slot alone. There is no lower bound: a number below the first one
     // takes the combo's selection away.
     setting.read = [this](const QString& text) {

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 // What follows from what a series says: the places of columns, lists and rows, its dividers and its limits.
 
 namespace {
@@ -132,6 +134,11 @@ void addDividers(PageDescription& page)
     const Divider ofPll = page.usbDivider.value_or(dividers::usb(listOf(divisors::usbHalfStepsTo4)));
     page.usb = UsbPart{page.has("m_pllfu_ComboBox") ? dividers::pllFu() : ofPll,
                        page.has("m_tousb_hick_RadioButton")};
+    const std::vector<double>& all = page.usb->divider.divisors;
+    const auto [least, most] = std::minmax_element(all.begin(), all.end() - page.usb->divider.withoutItem);
+    const SeriesTraits& traits = seriesTraits(page.series);
+    if (*least != traits.usbDivMin || *most != traits.usbDivMax)
+        qFatal("%s offers other divisors of USB than the model takes", qPrintable(page.word()));
 }
 
 } // namespace

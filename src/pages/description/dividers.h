@@ -66,6 +66,9 @@ struct Divider
     QString box() const { return QLatin1String(control) + QLatin1String("_ComboBox"); }
 };
 
+/// hext to the PLL where its divider cannot be chosen.
+constexpr int fixedHextDivisor = 2;
+
 /// A list of divisors as a table wants it.
 template <class List>
 std::vector<double> listOf(const List& list)

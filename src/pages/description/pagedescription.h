@@ -8,7 +8,6 @@
 #include <QSize>
 
 #include <initializer_list>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -199,7 +198,7 @@ struct PageDescription
     std::vector<PlacedPart> column = {};  ///< of outputs
     std::vector<ControlPlace> moved = {}; ///< what stands otherwise than its part has it, picture pixels
     std::vector<ControlFont> fonts = {};
-    const char* outputs = ""; ///< of the column, by name and from top to bottom: "i2s systick"
+    const char* outputs = ""; ///< of the column, by name and in the order of their rows: "i2s systick"
     PeripheralLists lists = {};
     const char* rtcName = "ertc";             ///< how captions call the RTC
     const char* hextEdit = "m_hext_lineEdit"; ///< two series spell its member otherwise
@@ -262,6 +261,8 @@ struct PageDescription
     QString word() const { return QLatin1String(seriesTraits(series).word); }
     QString stem() const { return QLatin1String(seriesTraits(series).stem); } ///< of the generated files
     QString pictureName() const;
+    /// Starts otherwise than the sibling from which the description comes.
+    void startWith(std::initializer_list<StartValue> values) { start.insert(start.end(), values); }
     /// Moves more controls than the sibling from which the description comes.
     void move(std::initializer_list<ControlPlace> rows) { moved.insert(moved.end(), rows); }
     /// All parts of the tree.

@@ -7,6 +7,8 @@
 namespace {
 
 constexpr int inNoFile = 0;
+/// A start value that every series with the setting says itself; no control offers this one.
+constexpr double saidBySeries = -1.0;
 
 struct SharedRow
 {
@@ -33,11 +35,11 @@ const SharedRow sharedRows[] = {
     {"pllhextdiv",       0.0,   90,   90},
     {"pllrcs",           0.0,  100,  100},
     {"pllmode",          0.0,  110,  110},
-    {"pllmult",         24.0,  120,  120},
+    {"pllmult", saidBySeries,  120,  120},
     {"pllms",            1.0,  130,  130},
-    {"pllns",           72.0,  140,  140},
-    {"pllfr",            4.0,  150,  150},
-    {"pllfp",            4.0,  160,  160},
+    {"pllns", saidBySeries,  140,  140},
+    {"pllfr", saidBySeries,  150,  150},
+    {"pllfp", saidBySeries,  160,  160},
     {"sclkselect",       1.0,  170,  170},
     {"ahbdiv",           1.0,  180,  180},
     {"apb1div",          1.0,  190,  190},
@@ -47,8 +49,8 @@ const SharedRow sharedRows[] = {
     {"tmrmultiply",      1.0,  inNoFile, inNoFile},
     {"adcswitch",        0.0,  360,  270},
     {"adcdiv",           2.0,  370,  280},
-    {"usbdiv",           4.0,  220,  230},
-    {"pllfu",           18.0,  220,  230},
+    {"usbdiv", saidBySeries,  220,  230},
+    {"pllfu", saidBySeries,  220,  230},
     // USB goes off before its source goes back to the PLL, or its slot would tune the PLL for it on the way.
     {"tousbswitch",      1.0,  240,  240, 262},
     {"hicktousb",        0.0,  230,  220, 261},
@@ -103,6 +105,11 @@ std::vector<SettingRow> settingRows(const PageDescription& page)
         rows.push_back(
             {QLatin1String(row.name), row.start, row.inFile, direct ? row.inDirectReading : row.inReading});
     addPeripherals(page, rows);
+    // A clock output starts with its first source.
+    for (const ClockOutput& output : page.clockOutputs)
+        for (SettingRow& row : rows)
+            if (row.name == QLatin1String(output.setting))
+                row.start = output.rows.front().value;
     for (const StartValue& own : page.start) {
         const auto row = std::find_if(rows.begin(), rows.end(), [&own](const SettingRow& each) {
             return each.name == QLatin1String(own.setting);

@@ -46,6 +46,8 @@ void Places::move(const std::vector<ControlPlace>& moves)
 {
     for (const ControlPlace& move : moves) {
         Control& moved = control(QLatin1String(move.name));
+        if (moved.x == move.x && moved.y == move.y && !move.text)
+            qFatal("%s stands where it is moved to", move.name);
         moved.x = move.x;
         moved.y = move.y;
         if (move.text)

@@ -6,15 +6,15 @@
 PageDescription ZN64G125PLL::describe()
 {
     PageDescription page{ZN64G125, QSize(1404, 828)};
-    page.tree = {{"modes"}, {"usb"}, {"clockoutclose"}};
+    page.tree = {
+        {"modes"    },
+        {"usbdivrow"},
+        {"usbswitch", 840, 502},
+        {"clockoutclose"       }
+    };
     page.buses = {{"buses"}};
     page.column = {
         {"outputs", 1178}
-    };
-    page.moved = {
-        {"m_tousb_Label",          850, 482},
-        {"m_tousbswitch_ComboBox", 840, 502},
-        {"m_usbclock_Label",       930, 525}
     };
     page.outputs = "i2s systick sido dma gpio apb1peripheral apb1tmr apb2peripheral apb2tmr";
     page.lists.apb1 = {"SPI2 USART2 USART3 UART4 UART5 I2C1 I2C2 CAN1 CMP"};

@@ -77,10 +77,9 @@ PageDescription ZN64G133PLL::describe()
     page.limits.pllPainted = false;
     page.limits.pllRefused = false;
     page.start = {
-        {"pllns",  75         },
-        {"pllfr",  2          },
-        {"usbdiv", 6          },
-        {"clkout", CLKOUT_SCLK}
+        {"pllns",  75},
+        {"pllfr",  2 },
+        {"usbdiv", 6 }
     };
     page.usbDivider = usbDivider();
     page.peripherals = {usart(1, ClockSource::Apb2), strayingUsart(2), strayingUsart(3), i2c1(),

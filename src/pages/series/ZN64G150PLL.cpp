@@ -48,7 +48,7 @@ PageDescription ZN64G150PLL::describe()
 {
     PageDescription page{ZN64G150, QSize(1404, 828)};
     // clang-format off
-    page.tree = {{"direct"}, {"plldirectfr"}, {"usbdirect"}, {"hexttosclk"}, {"clockout1"}, {"clockout2"},
+    page.tree = {{"direct"}, {"plldirectfr"}, {"usbdirect"}, {"hexttosclk"}, {"registerclose"}, {"clockout1"}, {"clockout2"},
                  {"sclkwarnings", 775, 315}};
     page.buses = {{"systick", 1092, 89},      {"apb1limited", 1035, 448}, {"apb1timer", 1092, 486},
                   {"apb2limited", 1035, 613}, {"apb2timer", 1092, 653}};
@@ -56,7 +56,7 @@ PageDescription ZN64G150PLL::describe()
         {"G150", 1177}
     };
     page.moved = {
-        {"m_hicktosclk_Label", 267, 440}, {"m_hicktousb_Label", 768, 490}, {"m_usbdiv_Label", 720, 433},
+        {"m_hicktosclk_Label", 267, 440}, {"m_hicktousb_Label", 768, 490},
         {"m_pllCFG_Value_lineEdit", 510, 227}, {"m_pllclk_Label", 650, 275},
         {"m_apb1divMax_Label", 1090, 438}, {"m_apb2divMax_Label", 1090, 603},
         {"m_sclk_Label", 775, 262, "sclk({sclkMin} - {sclk} MHz)"},

@@ -14,7 +14,7 @@ PageDescription ZN64G152PLL::describe()
         {"G152", 1176}
     };
     page.outputs =
-        "i2s systick sido dma xmc gpio dvp qspi adc apb1peripheral apb1tmr apb2peripheral apb2tmr emac";
+        "i2s systick sido dma xmc gpio dvp qspi emac adc apb1peripheral apb1tmr apb2peripheral apb2tmr";
     page.limits.askedAdc = 80.0;
     return page;
 }

@@ -31,10 +31,9 @@ PageDescription ZN64G165PLL::describe()
     page.limits.lowestTyped.reset();
     page.limits.pllRefused = false;
     page.start = {
-        {"pllns",  144        },
-        {"pllfp",  6          },
-        {"pllfu",  16         },
-        {"clkout", CLKOUT_SCLK}
+        {"pllns", 144},
+        {"pllfp", 6  },
+        {"pllfu", 16 }
     };
     page.peripherals = {peripherals::canOfThree(1), peripherals::canOfThree(2), peripherals::canOfThree(3),
                         peripherals::i2sf5()};

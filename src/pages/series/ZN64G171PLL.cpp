@@ -24,10 +24,9 @@ PageDescription ZN64G171PLL::describe()
     page.limits.lowestTyped.reset();
     page.limits.pllRefused = false;
     page.start = {
-        {"pllns",  108        },
-        {"pllfp",  4          },
-        {"pllfu",  18         },
-        {"clkout", CLKOUT_SCLK}
+        {"pllns", 108},
+        {"pllfp", 4  },
+        {"pllfu", 18 }
     };
     page.peripherals = {peripherals::i2sf5()};
     page.hickAtOutputs = HickAtOutputs::With48ForUsb;

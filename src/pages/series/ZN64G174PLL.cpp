@@ -9,13 +9,10 @@ PageDescription ZN64G174PLL::describe()
     page.series = ZN64G174;
     page.tree.push_back({"usbphy", 1180, 707});
     // The PHY of USB wants 12 MHz. 12 by 72 gives the same clocks as 8 by 108.
-    page.start = {
-        {"hext",   12         },
-        {"pllns",  72         },
-        {"pllfp",  4          },
-        {"pllfu",  18         },
-        {"clkout", CLKOUT_SCLK}
-    };
+    page.startWith({
+        {"hext",  12},
+        {"pllns", 72}
+    });
     return page;
 }
 

@@ -9,11 +9,9 @@ PageDescription ZN64H110RPLL::describe()
     page.series = ZN64H110R;
     page.limits.apb1 = 100.0;
     page.limits.apb2 = 100.0;
-    page.start = {
-        {"hextdiv", 2 },
-        {"pllmult", 25},
-        {"usbdiv",  4 }
-    };
+    page.startWith({
+        {"pllmult", 25}
+    });
     return page;
 }
 

@@ -33,9 +33,8 @@ PageDescription ZN64P212PLL::describe()
     page.limits.pllPainted = false;
     page.limits.generatingSkipsApb2 = true;
     page.start = {
-        {"pllns",  90         },
-        {"pllfr",  4          },
-        {"clkout", CLKOUT_SCLK}
+        {"pllns", 90},
+        {"pllfr", 4 }
     };
     page.peripherals = {peripherals::can()};
     page.hickAtOutputs = HickAtOutputs::Always48;
