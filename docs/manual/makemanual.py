@@ -3,15 +3,19 @@
 
 import argparse
 import html
+import io
 import json
 import logging
 import os
 import pathlib
 import re
+import struct
 import sys
+import zlib
 
 import jinja2
 import markdown
+import pydyf
 import weasyprint
 from markupsafe import Markup
 from PIL import Image
@@ -69,7 +73,8 @@ class Page:
             width, title = min(mm or image.width / PIXELS_PER_MM, 170), image.text.get("Title", "")
         bar = f'<div class="bar">{html.escape(title)}</div>' if title else ""
         place = f' class="beside" style="width: {width:.0f}mm"' if beside else ""
-        image = f'<div style="width: {width:.0f}mm">{bar}<img src="{path.as_uri()}" alt="{caption}"></div>'
+        shot = f'<p class="shot"><img src="{path.as_uri()}" alt="{caption}"></p>'
+        image = f'<div style="width: {width:.0f}mm">{bar}{shot}</div>'
         return Markup(f"<figure{place}>{image}<figcaption>{caption}</figcaption></figure>")
 
     def code(self, lead, name, first="", last=None):
@@ -150,6 +155,46 @@ def build_html(page, language, version, facts_folder):
                                                 pages=env.get_template("series.html").render())
 
 
+def palette_image(image):
+    """Makes a picture of the PDF one of 256 colours, a third of the size: the program's windows have few more."""
+    def chunk(name, data):
+        return struct.pack(">I", len(data)) + name + data + struct.pack(">I", zlib.crc32(name + data))
+
+    header = struct.pack(">IIBBBBB", image.extra["Width"], image.extra["Height"], 8, 2, 0, 0, 0)
+    png = b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", image.stream[0]) + chunk(b"IEND", b"")
+    few = Image.open(io.BytesIO(png)).quantize(256, Image.Quantize.MAXCOVERAGE, dither=Image.Dither.NONE)
+    colours = bytes(few.getpalette())
+    image.stream = [zlib.compress(few.tobytes(), 9)]
+    image.extra["ColorSpace"] = f"[/Indexed /DeviceRGB {len(colours) // 3 - 1} <{colours.hex()}>]"
+    del image.extra["DecodeParms"]
+
+
+def write_pdf(text, output):
+    """Writes a tagged PDF in which each picture stands with its alternative text."""
+    document = weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/").render()
+    # What an element of a page became in the PDF is known only to the parts that weasyprint fills on the way.
+    tags, build = [], document.build_element_structure
+
+    def keep(structure, element=None):
+        if element is None:
+            tags.append(structure)
+        build(structure, element)
+
+    document.build_element_structure = keep
+
+    def finish(_, pdf):
+        for element, tag in ((element, data["element"]) for page in tags for element, data in page.items()
+                             if "element" in data and not isinstance(element, weasyprint.formatting_structure.boxes.Box)):
+            if element.get("class") == "shot":
+                tag.update({"S": "/Figure", "Alt": pydyf.String(element.find("img").get("alt"))})
+        for image in pdf.objects:
+            if isinstance(image, pydyf.Stream) and image.extra.get("ColorSpace") == "/DeviceRGB":
+                palette_image(image)
+        pdf.catalog["PageMode"] = "/UseOutlines"
+
+    document.write_pdf(output, finisher=finish, variant="pdf/ua-1")
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("language", choices=("en", "zh"))
@@ -163,6 +208,7 @@ def main():
     complaints = []
     handler = logging.Handler(logging.WARNING)
     handler.emit = lambda record: complaints.append(record.getMessage())
+    handler.addFilter(lambda record: not record.getMessage().startswith("PDF/UA support is experimental"))
     logging.getLogger("weasyprint").handlers = [handler]
 
     os.environ["SOURCE_DATE_EPOCH"] = "0"  # otherwise the fonts hold the time of the build
@@ -170,7 +216,7 @@ def main():
     text = build_html(page, args.language, args.version, args.facts.resolve())
     complaints += [f"the manual says nothing of the text {each!r}" for each in page.text.missing(load("leftout.json"))]
     complaints += [f"the manual does not show the picture {each}" for each in sorted(page.unseen)]
-    weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/").write_pdf(args.output)
+    write_pdf(text, args.output)
     for complaint in complaints:
         print(f"manual ({args.language}): {complaint}", file=sys.stderr)
     if complaints:
