@@ -12,7 +12,7 @@ PACKAGES=(
     qtbase5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev
     fonts-liberation fonts-dejavu-core fonts-wqy-microhei
     xvfb xauth x11-utils openbox openssl
-    desktop-file-utils appstream libglib2.0-bin
+    desktop-file-utils appstream libglib2.0-bin xz-utils
     weasyprint python3-markdown python3-jinja2 poppler-utils
 )
 

@@ -5,7 +5,7 @@ source "$(dirname "$0")/lib.sh"
 
 install_packages
 build release
-rm -f build/release/ZN64_Clockwright-*.tar.gz
+rm -f build/release/ZN64_Clockwright-*.tar.*
 say "Packing the archive"
-cpack --config build/release/CPackConfig.cmake || die "the archive could not be packed"
-say "The archive is $(echo "$PWD"/build/release/ZN64_Clockwright-*.tar.gz)"
+archive=$(packaging/pack.sh build/release "$PWD/build/release") || die "the archive could not be packed"
+say "The archive is $archive, $(stat -c %s "$archive") bytes"
