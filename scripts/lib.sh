@@ -53,11 +53,12 @@ install_packages() {
         die "these Debian packages could not be had: ${missing[*]}"
 }
 
-# build PRESET: configures and builds build/PRESET. JOBS bounds the compilers at work.
+# build PRESET [TARGET...]: configures and builds build/PRESET, and targets beyond the default ones. JOBS bounds the
+# compilers at work.
 build() {
     say "Configuring and building the preset $1 in build/$1"
     cmake --preset "$1" >/dev/null || die "cmake could not configure the preset $1"
-    cmake --build --preset "$1" -- -j "${JOBS:-$(nproc)}" || die "the preset $1 does not build"
+    cmake --build --preset "$1" --target all "${@:2}" -- -j "${JOBS:-$(nproc)}" || die "the preset $1 does not build"
 }
 
 # run_tour PRESET: drives the real windows through a whole design, on a virtual display.

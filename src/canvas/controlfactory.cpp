@@ -1,6 +1,11 @@
-#include "canvas/ZN64MCUPLL.h"
+#include "canvas/controlfactory.h"
 
+#include "widgets/look.h"
+
+#include <QCoreApplication>
+#include <QGraphicsPixmapItem>
 #include <QGroupBox>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -21,7 +26,7 @@ QFont arial(int pointSize, int weight)
 class ControlWrapper : public QDialog
 {
 public:
-    ControlWrapper(ZN64MCUPLL& page, Qt::WindowFlags flags) : QDialog(&page, flags), m_page(page) {}
+    ControlWrapper(ControlFactory& page, Qt::WindowFlags flags) : QDialog(&page, flags), m_page(page) {}
     void reject() override {}
 
 protected:
@@ -43,12 +48,71 @@ protected:
     }
 
 private:
-    ZN64MCUPLL& m_page;
+    ControlFactory& m_page;
 };
 
 } // namespace
 
-QDialog* ZN64MCUPLL::embed(QWidget* control, int x, int y, QGraphicsProxyWidget** proxy)
+ControlFactory::ControlFactory(const QPixmap& picture, QWidget* parent)
+    : QWidget(parent), m_GraphicsView(new PinGraphicsView),
+      m_GraphicsScene(std::make_unique<QGraphicsScene>()), m_tabOrder(*m_GraphicsScene),
+      m_background(new QGraphicsPixmapItem(picture))
+{
+    m_GraphicsScene->setBackgroundBrush(QBrush(Qt::white, Qt::SolidPattern));
+    m_GraphicsView->setRenderHint(QPainter::Antialiasing, true);
+    m_GraphicsView->setScene(m_GraphicsScene.get());
+    m_GraphicsView->setTabOrder(&m_tabOrder);
+    m_GraphicsView->setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    m_GraphicsView->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255); border: none;"));
+    m_GraphicsView->verticalScrollBar()->setStyleSheet(look::scrollBarSheet(QStringLiteral("width: 12px;")));
+    m_GraphicsView->horizontalScrollBar()->setStyleSheet(
+        look::scrollBarSheet(QStringLiteral("height: 12px;")));
+
+    m_background->setTransformationMode(Qt::SmoothTransformation);
+    m_GraphicsScene->addItem(m_background);
+    m_GraphicsView->SetPixMapItem(m_background);
+    fitScene();
+
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(m_GraphicsView);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    setLayout(layout);
+}
+
+ControlFactory::~ControlFactory()
+{
+    // The scene goes first and takes the embedded controls along; neither the view nor the walk must look at
+    // it any more.
+    m_tabOrder.setControls({});
+    m_GraphicsView->setTabOrder(nullptr);
+    m_GraphicsView->setScene(nullptr);
+    m_GraphicsScene.reset();
+}
+
+void ControlFactory::fitScene()
+{
+    const QRectF picture = m_background->sceneBoundingRect();
+    QRectF seen = picture;
+    for (const QGraphicsItem* item : m_GraphicsScene->items())
+        if (item->isVisible())
+            seen |= item->sceneBoundingRect();
+    // As much on both sides: a picture that has room in the view stays where it is.
+    const qreal across = qMax(picture.left() - seen.left(), seen.right() - picture.right());
+    const qreal down = qMax(picture.top() - seen.top(), seen.bottom() - picture.bottom());
+    const QPoint before = m_GraphicsView->mapFromScene(0, 0);
+    const QPointF middle = m_GraphicsView->mapToScene(m_GraphicsView->viewport()->rect().center());
+    m_GraphicsScene->setSceneRect(picture.adjusted(-across, -down, across, down));
+    if (m_GraphicsView->mapFromScene(0, 0) != before)
+        m_GraphicsView->centerOn(middle);
+}
+
+QGraphicsProxyWidget* ControlFactory::proxyOf(const QWidget* control)
+{
+    return control->window()->graphicsProxyWidget();
+}
+
+QDialog* ControlFactory::embed(QWidget* control, int x, int y, QGraphicsProxyWidget** proxy)
 {
     auto* wrapper = new ControlWrapper(*this, Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     wrapper->setContentsMargins(0, 0, 0, 0);
@@ -63,14 +127,14 @@ QDialog* ZN64MCUPLL::embed(QWidget* control, int x, int y, QGraphicsProxyWidget*
     return wrapper;
 }
 
-CustomComboBox1* ZN64MCUPLL::NewComboBoxInScenePos(int x, int y, int width, int z)
+CustomComboBox1* ControlFactory::NewComboBoxInScenePos(int x, int y, int width, int z)
 {
     QGraphicsProxyWidget* proxy = nullptr;
     return NewComboBoxInScenePos(x, y, width, z, &proxy);
 }
 
-CustomComboBox1* ZN64MCUPLL::NewComboBoxInScenePos(int x, int y, int width, int z,
-                                                   QGraphicsProxyWidget** proxy)
+CustomComboBox1* ControlFactory::NewComboBoxInScenePos(int x, int y, int width, int z,
+                                                       QGraphicsProxyWidget** proxy)
 {
     auto* combo = new CustomComboBox1(this);
     connect(combo->listView(), SIGNAL(focusInThis(bool)), m_GraphicsView, SLOT(Focus_InControl_Slot(bool)));
@@ -84,7 +148,7 @@ CustomComboBox1* ZN64MCUPLL::NewComboBoxInScenePos(int x, int y, int width, int 
     return combo;
 }
 
-QLineEdit* ZN64MCUPLL::NewCustomLineEditInScenePos(const QString& text, int x, int y, int maxWidth)
+QLineEdit* ControlFactory::NewCustomLineEditInScenePos(const QString& text, int x, int y, int maxWidth)
 {
     QGraphicsProxyWidget* proxy = nullptr;
     QLineEdit* edit = NewCustomLineEditInScenePos(text, x, y, &proxy);
@@ -92,8 +156,8 @@ QLineEdit* ZN64MCUPLL::NewCustomLineEditInScenePos(const QString& text, int x, i
     return edit;
 }
 
-QLineEdit* ZN64MCUPLL::NewCustomLineEditInScenePos(const QString& text, int x, int y,
-                                                   QGraphicsProxyWidget** proxy)
+QLineEdit* ControlFactory::NewCustomLineEditInScenePos(const QString& text, int x, int y,
+                                                       QGraphicsProxyWidget** proxy)
 {
     auto* edit = new QLineEdit(this);
     edit->setText(text);
@@ -105,13 +169,13 @@ QLineEdit* ZN64MCUPLL::NewCustomLineEditInScenePos(const QString& text, int x, i
     return edit;
 }
 
-QLabel* ZN64MCUPLL::NewQLabelInScenePos(const QString& text, int x, int y, int pointSize, int weight)
+QLabel* ControlFactory::NewQLabelInScenePos(const QString& text, int x, int y, int pointSize, int weight)
 {
     return NewQLabelInScenePos(text, x, y, pointSize, weight, nullptr);
 }
 
-QLabel* ZN64MCUPLL::NewQLabelInScenePos(const QString& text, int x, int y, int pointSize, int weight,
-                                        QGraphicsProxyWidget** proxy)
+QLabel* ControlFactory::NewQLabelInScenePos(const QString& text, int x, int y, int pointSize, int weight,
+                                            QGraphicsProxyWidget** proxy)
 {
     auto* label = new QLabel(text, this);
     label->setFont(arial(pointSize, weight));
@@ -121,7 +185,7 @@ QLabel* ZN64MCUPLL::NewQLabelInScenePos(const QString& text, int x, int y, int p
     return label;
 }
 
-QRadioButton* ZN64MCUPLL::NewRadioButtonInScenePos(int x, int y)
+QRadioButton* ControlFactory::NewRadioButtonInScenePos(int x, int y)
 {
     auto* radio = new QRadioButton(this);
     radio->setStyleSheet(
@@ -134,13 +198,13 @@ QRadioButton* ZN64MCUPLL::NewRadioButtonInScenePos(int x, int y)
     return radio;
 }
 
-QLineEdit* ZN64MCUPLL::New_toperipheralControl(const QString& text, int x, int y, int pointSize)
+QLineEdit* ControlFactory::New_toperipheralControl(const QString& text, int x, int y, int pointSize)
 {
     NewQLabelInScenePos(text, x + outputLabelRight, y + outputLabelDown, pointSize, 0);
     return New_toperipheralControl(x, y, pointSize);
 }
 
-QLineEdit* ZN64MCUPLL::New_toperipheralControl(int x, int y, int)
+QLineEdit* ControlFactory::New_toperipheralControl(int x, int y, int)
 {
     QLineEdit* edit = NewCustomLineEditInScenePos(QString(), x, y, 60);
     edit->setReadOnly(true);
@@ -149,17 +213,18 @@ QLineEdit* ZN64MCUPLL::New_toperipheralControl(int x, int y, int)
     return edit;
 }
 
-QPushButton* ZN64MCUPLL::New_toperipheralListButton(int x, int y, int)
+QPushButton* ControlFactory::New_toperipheralListButton(int x, int y, int)
 {
-    auto* button =
-        new QPushButton(QIcon(QStringLiteral(":/image/btn_right_slider_hover.png")), tr("List"), this);
+    // The tables of translations know it by the base of the pages.
+    auto* button = new QPushButton(QIcon(QStringLiteral(":/image/btn_right_slider_hover.png")),
+                                   QCoreApplication::translate("ZN64MCUPLL", "List"), this);
     button->setFont(arial(10, 75));
     button->setStyleSheet(QStringLiteral("border-style: none;"));
     embed(button, x, y);
     return button;
 }
 
-QDialog* ZN64MCUPLL::New_toperipheralListGroup(const QStringList& texts, int x, int y, int, int spacing)
+QDialog* ControlFactory::New_toperipheralListGroup(const QStringList& texts, int x, int y, int, int spacing)
 {
     auto* box = new QGroupBox(this);
     auto* layout = new QVBoxLayout;

@@ -233,9 +233,10 @@ constexpr CodeTraits p212 = [] {
     row.clockChain = g142Clock;
     row.mainChain = p212Main;
     row.canFromPllu = false;
-    // Above 180 MHz the voltage falls back to 1.2 V, which is meant.
+    // Above 180 MHz, which generating refuses, the voltage is 1.2 V again.
     row.ldo = {150.0, 180.0, never, ldo1V2};
-    // The code sets the hext divider, and the comment is meant to pass it over all the same.
+    // The code sets the hext divider, but the comment of this family passes it over: with it, every generated
+    // file would differ from those that users have.
     row.hextDivInComment = false;
     row.canCount = 1;
     return row;

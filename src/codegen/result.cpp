@@ -56,7 +56,8 @@ QString normalSource(const ZN64ConfigCLK& clock)
     }
 }
 
-/// The flash line stops at 4 cycles on purpose, even where the code sets more wait states.
+/// The comment has five steps and ends at 4 cycles, even where the call below it sets more wait states. The
+/// two are kept apart: a comment that follows the call would change files that users have.
 int flashCycles(double sysclk)
 {
     int cycles = 0;

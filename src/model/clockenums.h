@@ -69,7 +69,7 @@ enum HICK_TO_USB : int
     HICK_TO_USB_DISABLE = 0,
     HICK_TO_USB_ENABLE = 1
 };
-/// Inverted on purpose: zero means that the USB clock is on.
+/// Zero means that the USB clock is on: the number stands so in design files.
 enum TO_USB_SWITCH : int
 {
     TO_USB_SWITCH_ENABLE = 0,

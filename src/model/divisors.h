@@ -56,7 +56,7 @@ inline constexpr std::array<int, 63> pllMul = steps<int, 63>(2, 1);
 /// The PLL's output divider, in two makes.
 inline constexpr std::array<int, 6> pllFr{1, 2, 4, 8, 16, 32};
 inline constexpr std::array<int, 16> pllFp{1, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30};
-/// VCO to USB. 13 stands before 12 on purpose: so do the register codes.
+/// VCO to USB. The place of a value is its register code, in which 13 comes before 12.
 inline constexpr std::array<int, 7> pllFu{11, 13, 12, 14, 16, 18, 20};
 
 /// The typed PLL values; both ends are good.

@@ -67,7 +67,8 @@ bool ZN64ConfigCLK::PLL_MS_Valid_Check(int ms, int& corrected) const
 bool ZN64ConfigCLK::PLL_NS_Valid_Check(int ns, int ms, int& corrected) const
 {
     const double in = GetPllInPutValue();
-    // USB's own limit of the VCO is left out on purpose.
+    // Without the limit that the search keeps for USB: a typed value is good while USB is off, and designs
+    // are saved with it.
     const double top = m_traits->vcoTop();
     const double value = vco(ns, in, ms);
     corrected = divisors::pllNsMin;

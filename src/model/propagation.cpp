@@ -76,7 +76,7 @@ void ZN64ConfigCLK::forceApbDividers()
             m_APB2CLK_Value = m_AHBCLK_Value / m_APB2DIV;
         }
     }
-    // The rule looks at AHB and not at APB1, on purpose.
+    // By AHB: a divider of 2 or more stays as the user chose it, even where APB1 is still above 120 MHz.
     if (m_traits->apb1_120_rule && m_AHBCLK_Value > 120.0)
         raiseApb1Divider();
 }

@@ -29,7 +29,8 @@ bool ZN64ConfigCLK::clkout2Is(CLKOUT2 source) const
     return m_CLKOUT2_PinSelect != 0 && m_CLKOUT2 == source;
 }
 
-// CLKOUT_PLL puts no oscillator to use, on purpose; the outputs of a pair do.
+// CLKOUT_PLL puts no oscillator to use, so that generated code does not switch one on for it; the outputs of
+// a pair do. Counted here, it would change the code of designs that exist.
 bool ZN64ConfigCLK::outputsUsePllFrom(PLLRC source) const
 {
     const bool pllOut = m_traits->dual_clkout ? clkout1Is(CLKOUT1_PLL) || clkout2Is(CLKOUT2_PLL)
@@ -58,7 +59,8 @@ bool ZN64ConfigCLK::hick_isEnable() const
 
 bool ZN64ConfigCLK::peripheralUsesPll(unsigned user) const
 {
-    // With three CAN blocks PCLK counts as the PLL's user too, with one it does not. Both are meant.
+    // With three CAN blocks PCLK counts as the PLL's user too, with one it does not. It decides whether
+    // generated code starts the PLL: made alike, designs that exist would get other code.
     const auto pllOrPclk = [](bool on, CAN_CLOCK_SOURCE source) {
         return on && (source == CAN_CLOCK_SOURCE_PCLK || source == CAN_CLOCK_SOURCE_PLL);
     };

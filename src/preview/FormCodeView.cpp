@@ -135,7 +135,8 @@ void FormCodeView::LoadCode(const QString& series, const QString& directory)
     const QString names[] = {QStringLiteral("main.c"), stem + QStringLiteral("_clock.c"),
                              stem + QStringLiteral("_conf.h"), stem + QStringLiteral("_clock.h")};
     const QList<MyQsciScintilla*> tabs = editors();
-    // Counts the files read, not the tabs: behind a missing file the names move up. This is meant.
+    // Counts the files read, not the tabs: behind a missing file the names move up, and the last tab
+    // keeps its old one. The number of names shown tells how many files were read.
     int label = 0;
     for (int index = 0; index < m_TabNumber; ++index) {
         const QString& name = names[index];

@@ -1,3 +1,4 @@
+#include "files/previewfolder.h"
 #include "pagefixture.h"
 #include "testdata.h"
 
@@ -5,6 +6,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -240,6 +242,7 @@ void TestPageGeneration::whatIsInTheWay()
 void TestPageGeneration::codeViewAsksNothing()
 {
     const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/Code_Sample");
+    const auto released = qScopeGuard(previewfolder::release);
     const PageFixture page(QStringLiteral("G110"));
     putOldFiles(folder);
     DialogAnswers answers{};

@@ -45,7 +45,7 @@ private slots:
                    "top as the root | <Top><T><N/><Tag>1</Tag></T></Top> | ",
                    "top below another | <R><A><Top><T><N/><Tag>1</Tag></T></Top></A></R> | ",
                    "not well formed | <R><Top><T><N/><Tag>1</Tag></T></Top> | ",
-                   "document type | <!DOCTYPE R>{<T><N/><Tag>1</Tag></T>} | ", "empty | | "});
+                   "document type | <!DOCTYPE R []>{<T><N/><Tag>1</Tag></T>} | ", "empty | | "});
     }
 
     void listElements()

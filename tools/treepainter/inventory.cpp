@@ -129,6 +129,32 @@ QString limitsOf(const PageDescription& page)
     return lines;
 }
 
+QString peripheralsOf(const PageDescription& page)
+{
+    QString lines;
+    for (const PeripheralClock& clock : page.peripherals) {
+        QStringList sources;
+        for (const PeripheralSource& source : clock.sources)
+            sources << QStringLiteral("%1=%2 shows %3, red by %4")
+                           .arg(QLatin1String(source.name))
+                           .arg(source.number)
+                           .arg(clockName(source.shown), clockName(source.limited));
+        lines += QStringLiteral("%1: red above %2; %3\n")
+                     .arg(QLatin1String(clock.stem))
+                     .arg(*clock.limit)
+                     .arg(sources.join(QLatin1String("; ")));
+    }
+    return lines;
+}
+
+QString startValuesOf(const ClockTreePage& page)
+{
+    QStringList values;
+    for (const SettingRow& row : page.startOrder())
+        values << QStringLiteral("%1=%2").arg(row.name).arg(row.start);
+    return QLatin1String("started in the order: ") + values.join(QLatin1Char(' ')) + QLatin1Char('\n');
+}
+
 } // namespace
 
 QString clockName(ClockSource clock)
@@ -147,7 +173,8 @@ QString inventoryOf(ClockTreePage& page)
                .arg(description.pictureSize.width())
                .arg(description.pictureSize.height())
                .arg(description.stem()) +
-           controlsOf(page) + QLatin1Char('\n') + limitsOf(description) + QLatin1Char('\n') +
-           startDesign(page) + QLatin1String("\n\nread in the order: ") +
-           page.readingOrder().join(QLatin1Char(' ')) + QLatin1Char('\n');
+           controlsOf(page) + QLatin1Char('\n') + limitsOf(description) + peripheralsOf(description) +
+           QLatin1Char('\n') + startValuesOf(page) + startDesign(page) +
+           QLatin1String("\n\nread in the order: ") + page.readingOrder().join(QLatin1Char(' ')) +
+           QLatin1Char('\n');
 }

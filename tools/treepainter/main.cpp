@@ -121,6 +121,18 @@ int workOn(const QString& series, const std::optional<Task>& task)
     return 0;
 }
 
+/// Lists what the page of the series holds, or those of all.
+int listSeries(QStringList words)
+{
+    if (words.isEmpty())
+        for (const SeriesTraits& traits : seriesList())
+            words << QLatin1String(traits.word);
+    for (const QString& word : words)
+        if (workOn(word, {}) != 0)
+            return 1;
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -147,12 +159,13 @@ int main(int argc, char* argv[])
                                     QStringLiteral("Also list the page's controls with their places."));
     const QCommandLineOption inventory(
         QStringLiteral("list"),
-        QStringLiteral("Only print what the page of the series holds; takes neither pages nor output."));
+        QStringLiteral(
+            "Only print what the page of the series holds, or all pages; takes neither pages nor output."));
     arguments.addOptions({review, places, inventory});
     arguments.process(application);
     const QStringList files = arguments.positionalArguments();
-    if (arguments.isSet(inventory) && files.size() == 1)
-        return workOn(files[0], {});
+    if (arguments.isSet(inventory) && files.size() <= 1)
+        return listSeries(files);
     if (files.size() != 3)
         arguments.showHelp(1);
     return workOn(files[0], Task{files[1], files[2], arguments.value(review), arguments.isSet(places)});
