@@ -4,10 +4,13 @@
 #include "widgets/messages.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPointer>
+#include <QPushButton>
 
 namespace {
 
@@ -17,7 +20,17 @@ QString lastFolder;
 class FolderDialog : public QFileDialog
 {
 public:
-    using QFileDialog::QFileDialog;
+    FolderDialog(QWidget* parent, const QString& title) : QFileDialog(parent, title)
+    {
+        // The toolkit greys the button for a folder that does not exist; a desktop's own dialog has neither.
+        const auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const auto* buttons = findChild<QDialogButtonBox*>();
+        if (edit && buttons)
+            connect(edit, &QLineEdit::textChanged, buttons, [buttons](const QString& typed) {
+                if (!typed.isEmpty())
+                    buttons->button(QDialogButtonBox::Open)->setEnabled(true);
+            });
+    }
 
 protected:
     void accept() override

@@ -2,7 +2,10 @@
 #include "testdata.h"
 #include "widgets/filedialogs.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 
 /// The dialogs for files and folders, answered by typing.
@@ -72,12 +75,13 @@ private:
         DialogAnswers answers{DialogAnswers::choose(path)};
         return ask();
     }
-    /// Types the path and confirms it when the answer is done: there is a question to come.
+    /// Types the path and clicks the button when the answer is done: there is a question to come.
     static DialogAnswers::Answer typeMissing(const QString& path)
     {
         return [path](QDialog* dialog) {
-            qobject_cast<QFileDialog*>(dialog)->selectFile(path);
-            QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+            dialog->findChild<QLineEdit*>("fileNameEdit"_s)->setText(path);
+            auto* button = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+            QTimer::singleShot(0, button, &QAbstractButton::click);
         };
     }
     static void closeWhatIsLeft()
