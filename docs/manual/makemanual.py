@@ -27,9 +27,10 @@ PIXELS_PER_MM = 11  # of the pictures, which come in twice the pixels of a scree
 class Texts:
     """The texts of the program in one language, and which of them the manual has shown."""
 
-    def __init__(self, path, language):
+    def __init__(self, paths, language):
         self.language = language
-        self.rows = {row["source"]: row for row in reversed(json.loads(path.read_text())["texts"])}
+        rows = [row for path in paths for row in json.loads(path.read_text())["texts"]]
+        self.rows = {row["source"]: row for row in reversed(rows)}
         self.shown = set()
 
     def __call__(self, source):
@@ -78,11 +79,13 @@ class Page:
         return Markup(f"<figure{place}>{image}<figcaption>{caption}</figcaption></figure>")
 
     def code(self, lead, name, first="", last=None):
-        """A generated file, or its lines from the first that holds one text to the next that holds another, on the
-        page of the words that lead to it."""
+        """A generated file, or its lines from the first that holds one text, or from the start of its comment, to the
+        next that holds another, on the page of the words that lead to it."""
         lines = (self.pictures / name).read_text().replace("\r", "").rstrip().split("\n")
         start = next(i for i, line in enumerate(lines) if first in line)
         end = next(i for i in range(start, len(lines)) if last in lines[i]) if last is not None else len(lines) - 1
+        while lines[start].lstrip().startswith("*"):
+            start -= 1
         text = html.escape("\n".join(lines[start:end + 1]))
         return Markup(f'<div class="listing">{markdown.markdown(lead)}<pre>{text}</pre></div>')
 
@@ -199,7 +202,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("language", choices=("en", "zh"))
     parser.add_argument("--version", required=True)
-    parser.add_argument("--texts", type=pathlib.Path, required=True, help="the table of the program's texts")
+    parser.add_argument("--texts", type=pathlib.Path, required=True, nargs="+", help="the tables of the program's texts")
     parser.add_argument("--pictures", type=pathlib.Path, required=True, help="what the tour has left")
     parser.add_argument("--facts", type=pathlib.Path, required=True, help="what manualfacts has left")
     parser.add_argument("output")
