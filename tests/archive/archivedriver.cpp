@@ -59,8 +59,7 @@ private:
                 answers.add(DialogAnswers::press("Yes"));
             answers.add(DialogAnswers::choose(example.filePath()));
             form.findChild<QAction*>(QStringLiteral("m_Open_Action"))->trigger();
-            const auto* button =
-                form.findChild<QAbstractButton*>(QStringLiteral("m_ClockConfig_PushButton"));
+            const auto* button = form.findChild<QAbstractButton*>(QStringLiteral("m_ClockConfig_PushButton"));
             std::printf("%s, ", qPrintable(button->text()));
             answers.add(DialogAnswers::choose(saved.filePath(example.fileName())));
             answers.add(DialogAnswers::press("Ok"));
