@@ -74,7 +74,7 @@ class Page:
             width, title = min(mm or image.width / PIXELS_PER_MM, 170), image.text.get("Title", "")
         bar = f'<div class="bar">{html.escape(title)}</div>' if title else ""
         place = f' class="beside" style="width: {width:.0f}mm"' if beside else ""
-        shot = f'<p class="shot"><img src="{path.as_uri()}" alt="{caption}"></p>'
+        shot = f'<p class="shot"><img src="{address(path)}" alt="{caption}"></p>'
         image = f'<div style="width: {width:.0f}mm">{bar}{shot}</div>'
         return Markup(f"<figure{place}>{image}<figcaption>{caption}</figcaption></figure>")
 
@@ -94,6 +94,11 @@ def joined_lines(text):
     """Chinese has no blanks between words: a line break in the source must not become one."""
     chinese = "[\u3000-\u9fff\uff00-\uffef\u201c\u201d]"
     return re.sub(rf'({chinese}|</b>)\n *(?={chinese}|<b class="ui">)', r"\1", text)
+
+
+def address(path):
+    """The PDF names a picture by its address, which must not depend on the folder of the build."""
+    return f"picture:{path.parent.name}/{path.name}"
 
 
 def load(name):
@@ -148,7 +153,7 @@ def build_html(page, language, version, facts_folder):
         ui=page.ui, text=page.text, box=page.box, picture=page.picture, code=page.code, w=page.words.__getitem__,
         version=version, series=facts, limits_table=limits_table,
         names=lambda some: page.words["comma"].join(one["name"] for one in some),
-        tree=lambda one: (facts_folder / f"{one['word']}.png").as_uri())
+        tree=lambda one: address(facts_folder / f"{one['word']}.png"))
     chapters = [env.get_template(str(path.relative_to(HERE))).render()
                 for path in sorted((HERE / language).glob("*.md"))]
     converter = markdown.Markdown(extensions=["extra", "toc"], extension_configs={"toc": {"toc_depth": "1-2"}})
@@ -172,9 +177,12 @@ def palette_image(image):
     del image.extra["DecodeParms"]
 
 
-def write_pdf(text, output):
-    """Writes a tagged PDF in which each picture stands with its alternative text."""
-    document = weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/").render()
+def write_pdf(text, folder, output):
+    """Writes a tagged PDF in which each picture stands with its alternative text. The pictures are below the folder."""
+    def fetch(url):
+        return weasyprint.default_url_fetcher(re.sub("^picture:", folder.as_uri() + "/", url))
+
+    document = weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/", url_fetcher=fetch).render()
     # What an element of a page became in the PDF is known only to the parts that weasyprint fills on the way.
     tags, build = [], document.build_element_structure
 
@@ -219,7 +227,7 @@ def main():
     text = build_html(page, args.language, args.version, args.facts.resolve())
     complaints += [f"the manual says nothing of the text {each!r}" for each in page.text.missing(load("leftout.json"))]
     complaints += [f"the manual does not show the picture {each}" for each in sorted(page.unseen)]
-    write_pdf(text, args.output)
+    write_pdf(text, args.pictures.resolve().parent, args.output)
     for complaint in complaints:
         print(f"manual ({args.language}): {complaint}", file=sys.stderr)
     if complaints:
