@@ -8,7 +8,7 @@ build release manual
 say "Running the tests of the manuals and of the archive"
 LC_ALL=C.UTF-8 ctest --preset release -C Archive -L archive --no-tests=error ||
     die "tests of the manuals or of the archive failed"
-rm -f build/release/ZN64_Clockwright-*.tar.gz
+rm -f build/release/ZN64_Clockwright-*.tar.*
 say "Packing the archive"
-cpack --config build/release/CPackConfig.cmake || die "the archive could not be packed"
-say "The archive is $(echo "$PWD"/build/release/ZN64_Clockwright-*.tar.gz)"
+archive=$(packaging/pack.sh build/release "$PWD/build/release") || die "the archive could not be packed"
+say "The archive is $archive, $(stat -c %s "$archive") bytes"

@@ -3,15 +3,19 @@
 
 import argparse
 import html
+import io
 import json
 import logging
 import os
 import pathlib
 import re
+import struct
 import sys
+import zlib
 
 import jinja2
 import markdown
+import pydyf
 import weasyprint
 from markupsafe import Markup
 from PIL import Image
@@ -23,9 +27,10 @@ PIXELS_PER_MM = 11  # of the pictures, which come in twice the pixels of a scree
 class Texts:
     """The texts of the program in one language, and which of them the manual has shown."""
 
-    def __init__(self, path, language):
+    def __init__(self, paths, language):
         self.language = language
-        self.rows = {row["source"]: row for row in reversed(json.loads(path.read_text())["texts"])}
+        rows = [row for path in paths for row in json.loads(path.read_text())["texts"]]
+        self.rows = {row["source"]: row for row in reversed(rows)}
         self.shown = set()
 
     def __call__(self, source):
@@ -69,15 +74,18 @@ class Page:
             width, title = min(mm or image.width / PIXELS_PER_MM, 170), image.text.get("Title", "")
         bar = f'<div class="bar">{html.escape(title)}</div>' if title else ""
         place = f' class="beside" style="width: {width:.0f}mm"' if beside else ""
-        image = f'<div style="width: {width:.0f}mm">{bar}<img src="{path.as_uri()}" alt="{caption}"></div>'
+        shot = f'<p class="shot"><img src="{address(path)}" alt="{caption}"></p>'
+        image = f'<div style="width: {width:.0f}mm">{bar}{shot}</div>'
         return Markup(f"<figure{place}>{image}<figcaption>{caption}</figcaption></figure>")
 
     def code(self, lead, name, first="", last=None):
-        """A generated file, or its lines from the first that holds one text to the next that holds another, on the
-        page of the words that lead to it."""
+        """A generated file, or its lines from the first that holds one text, or from the start of its comment, to the
+        next that holds another, on the page of the words that lead to it."""
         lines = (self.pictures / name).read_text().replace("\r", "").rstrip().split("\n")
         start = next(i for i, line in enumerate(lines) if first in line)
         end = next(i for i in range(start, len(lines)) if last in lines[i]) if last is not None else len(lines) - 1
+        while lines[start].lstrip().startswith("*"):
+            start -= 1
         text = html.escape("\n".join(lines[start:end + 1]))
         return Markup(f'<div class="listing">{markdown.markdown(lead)}<pre>{text}</pre></div>')
 
@@ -86,6 +94,11 @@ def joined_lines(text):
     """Chinese has no blanks between words: a line break in the source must not become one."""
     chinese = "[\u3000-\u9fff\uff00-\uffef\u201c\u201d]"
     return re.sub(rf'({chinese}|</b>)\n *(?={chinese}|<b class="ui">)', r"\1", text)
+
+
+def address(path):
+    """The PDF names a picture by its address, which must not depend on the folder of the build."""
+    return f"picture:{path.parent.name}/{path.name}"
 
 
 def load(name):
@@ -140,7 +153,7 @@ def build_html(page, language, version, facts_folder):
         ui=page.ui, text=page.text, box=page.box, picture=page.picture, code=page.code, w=page.words.__getitem__,
         version=version, series=facts, limits_table=limits_table,
         names=lambda some: page.words["comma"].join(one["name"] for one in some),
-        tree=lambda one: (facts_folder / f"{one['word']}.png").as_uri())
+        tree=lambda one: address(facts_folder / f"{one['word']}.png"))
     chapters = [env.get_template(str(path.relative_to(HERE))).render()
                 for path in sorted((HERE / language).glob("*.md"))]
     converter = markdown.Markdown(extensions=["extra", "toc"], extension_configs={"toc": {"toc_depth": "1-2"}})
@@ -150,11 +163,54 @@ def build_html(page, language, version, facts_folder):
                                                 pages=env.get_template("series.html").render())
 
 
+def palette_image(image):
+    """Makes a picture of the PDF one of 256 colours, a third of the size: the program's windows have few more."""
+    def chunk(name, data):
+        return struct.pack(">I", len(data)) + name + data + struct.pack(">I", zlib.crc32(name + data))
+
+    header = struct.pack(">IIBBBBB", image.extra["Width"], image.extra["Height"], 8, 2, 0, 0, 0)
+    png = b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", image.stream[0]) + chunk(b"IEND", b"")
+    few = Image.open(io.BytesIO(png)).quantize(256, Image.Quantize.MAXCOVERAGE, dither=Image.Dither.NONE)
+    colours = bytes(few.getpalette())
+    image.stream = [zlib.compress(few.tobytes(), 9)]
+    image.extra["ColorSpace"] = f"[/Indexed /DeviceRGB {len(colours) // 3 - 1} <{colours.hex()}>]"
+    del image.extra["DecodeParms"]
+
+
+def write_pdf(text, folder, output):
+    """Writes a tagged PDF in which each picture stands with its alternative text. The pictures are below the folder."""
+    def fetch(url):
+        return weasyprint.default_url_fetcher(re.sub("^picture:", folder.as_uri() + "/", url))
+
+    document = weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/", url_fetcher=fetch).render()
+    # What an element of a page became in the PDF is known only to the parts that weasyprint fills on the way.
+    tags, build = [], document.build_element_structure
+
+    def keep(structure, element=None):
+        if element is None:
+            tags.append(structure)
+        build(structure, element)
+
+    document.build_element_structure = keep
+
+    def finish(_, pdf):
+        for element, tag in ((element, data["element"]) for page in tags for element, data in page.items()
+                             if "element" in data and not isinstance(element, weasyprint.formatting_structure.boxes.Box)):
+            if element.get("class") == "shot":
+                tag.update({"S": "/Figure", "Alt": pydyf.String(element.find("img").get("alt"))})
+        for image in pdf.objects:
+            if isinstance(image, pydyf.Stream) and image.extra.get("ColorSpace") == "/DeviceRGB":
+                palette_image(image)
+        pdf.catalog["PageMode"] = "/UseOutlines"
+
+    document.write_pdf(output, finisher=finish, variant="pdf/ua-1")
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("language", choices=("en", "zh"))
     parser.add_argument("--version", required=True)
-    parser.add_argument("--texts", type=pathlib.Path, required=True, help="the table of the program's texts")
+    parser.add_argument("--texts", type=pathlib.Path, required=True, nargs="+", help="the tables of the program's texts")
     parser.add_argument("--pictures", type=pathlib.Path, required=True, help="what the tour has left")
     parser.add_argument("--facts", type=pathlib.Path, required=True, help="what manualfacts has left")
     parser.add_argument("output")
@@ -163,6 +219,7 @@ def main():
     complaints = []
     handler = logging.Handler(logging.WARNING)
     handler.emit = lambda record: complaints.append(record.getMessage())
+    handler.addFilter(lambda record: not record.getMessage().startswith("PDF/UA support is experimental"))
     logging.getLogger("weasyprint").handlers = [handler]
 
     os.environ["SOURCE_DATE_EPOCH"] = "0"  # otherwise the fonts hold the time of the build
@@ -170,7 +227,7 @@ def main():
     text = build_html(page, args.language, args.version, args.facts.resolve())
     complaints += [f"the manual says nothing of the text {each!r}" for each in page.text.missing(load("leftout.json"))]
     complaints += [f"the manual does not show the picture {each}" for each in sorted(page.unseen)]
-    weasyprint.HTML(string=text, base_url=HERE.as_uri() + "/").write_pdf(args.output)
+    write_pdf(text, args.pictures.resolve().parent, args.output)
     for complaint in complaints:
         print(f"manual ({args.language}): {complaint}", file=sys.stderr)
     if complaints:

@@ -3,11 +3,13 @@
 #include "files/plainfile.h"
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"
+#include "widgets/focusframe.h"
 #include "widgets/look.h"
 #include "widgets/named.h"
 
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTabBar>
@@ -110,6 +112,24 @@ void FormCodeView::createTabs()
         "QTabBar::tab {background: rgb(57, 169, 220); color:white;  width:202px; height: 80px; "
         "border: 1px solid white;}QTabBar::tab:selected {background:rgb(123, 199, 233); }"));
     m_CodeViewTabWidget->setTabPosition(QTabWidget::West);
+    // The keyboard changes the tab without a click.
+    connect(m_CodeViewTabWidget, SIGNAL(currentChanged(int)), this, SLOT(TabWidgetTabBarClicked(int)));
+    m_CodeViewTabWidget->tabBar()->installEventFilter(this);
+    m_focusFrame = new FocusFrame(this);
+    m_focusFrame->watch(m_CodeViewTabWidget->tabBar(), [this] { return m_tabLable_List[m_TabWidgetIndex]; });
+}
+
+bool FormCodeView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            const int next = m_CodeViewTabWidget->currentIndex() + (key == Qt::Key_Up ? -1 : 1);
+            m_CodeViewTabWidget->setCurrentIndex(qBound(0, next, m_TabNumber - 1));
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 QLabel* FormCodeView::newTabLabel(int index)
@@ -177,4 +197,5 @@ void FormCodeView::TabWidgetTabBarClicked(int index)
         m_tabLable_List[tab]->setStyleSheet(
             QStringLiteral("background:%1; color:white; border: 0px;").arg(ground));
     }
+    m_focusFrame->update();
 }

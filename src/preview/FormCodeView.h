@@ -5,6 +5,7 @@
 #include <QString>
 #include <QWidget>
 
+class FocusFrame;
 class MyQsciScintilla;
 class QGridLayout;
 class QLabel;
@@ -30,6 +31,8 @@ public:
     void TranslatorUI();
 
     QSize sizeHint() const override { return size; }
+    /// Up and Down walk the bar of the tabs, which runs down the side.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
     /// Makes the tab's label the highlighted one. A negative index does nothing.
@@ -57,4 +60,5 @@ private:
     QsciLexerCPP* m_textLexer;
     QList<QLabel*> m_tabLable_List;
     int m_TabNumber = 4;
+    FocusFrame* m_focusFrame;
 };

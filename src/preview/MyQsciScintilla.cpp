@@ -16,6 +16,9 @@ MyQsciScintilla::MyQsciScintilla(QWidget* parent)
     m_copyAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_C));
     m_selectAllAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_A));
     TranslatorUI();
+    // Nothing is taken here; a design file that is dropped is for the window.
+    setAcceptDrops(false);
+    viewport()->setAcceptDrops(false);
 }
 
 MyQsciScintilla::~MyQsciScintilla()

@@ -1,6 +1,7 @@
 #include "shell/MCUSelect_Form.h"
 
 #include "canvas/CustomQControl.h"
+#include "widgets/focusframe.h"
 #include "widgets/named.h"
 
 #include <QAbstractItemView>
@@ -50,6 +51,11 @@ MCUSelect_Form::MCUSelect_Form(QWidget*) : QDialog(nullptr)
     createLineRow();
     createSeriesRow();
     createButtons();
+    auto* frame = new FocusFrame(this);
+    for (QWidget* each :
+         std::initializer_list<QWidget*>{m_QueryDevice_ComboBox, m_ProductLine_ComboBox, m_MCUSerial_ComboBox,
+                                         m_ok_PushButton, m_cancel_PushButton})
+        frame->watch(each);
 }
 
 void MCUSelect_Form::InitProductLineInfoList()

@@ -20,8 +20,10 @@ ZN64PLLConfig::ZN64PLLConfig(QWidget* parent) : QWidget(parent)
 {
     CreateActions();
     createToolBar();
+    createStartLabel();
     m_main_VBoxLayout = named("m_main_VBoxLayout", new QVBoxLayout);
     m_main_VBoxLayout->addWidget(m_toolBarGroupBox);
+    m_main_VBoxLayout->addWidget(m_start_Label);
     m_main_VBoxLayout->setSpacing(0);
     m_main_VBoxLayout->setContentsMargins(0, 0, 0, 0);
     setLayout(m_main_VBoxLayout);
@@ -61,6 +63,8 @@ void ZN64PLLConfig::createToolBar()
     // A tool bar leaves its buttons out of the keyboard's way round the window.
     for (QToolButton* button : m_ToolBar->findChildren<QToolButton*>()) {
         button->setFocusPolicy(Qt::TabFocus);
+        button->setAutoRepeat(button->defaultAction() == m_ZoomIn_Action ||
+                              button->defaultAction() == m_ZoomOut_Action);
         button->setStyleSheet(
             QStringLiteral("QToolButton:focus{border: 2px solid rgb(0, 32, 82); border-radius: 2px;}"));
     }
@@ -75,8 +79,26 @@ void ZN64PLLConfig::createToolBar()
     m_toolBarGroupBox->hide();
 }
 
+void ZN64PLLConfig::createStartLabel()
+{
+    m_start_Label = named("m_start_Label", new QLabel(this));
+    m_start_Label->setFont(QFont(QStringLiteral("Arial"), 11, 0));
+    m_start_Label->setStyleSheet(QStringLiteral("color: rgb(110, 110, 110);"));
+    m_start_Label->setAlignment(Qt::AlignCenter);
+    m_start_Label->setWordWrap(true);
+    translateStartLabel();
+}
+
+void ZN64PLLConfig::translateStartLabel()
+{
+    if (m_start_Label)
+        m_start_Label->setText(
+            tr("To begin, choose New or Open in the menu Project, or drop a design file here."));
+}
+
 void ZN64PLLConfig::TranslatorUI()
 {
+    translateStartLabel();
     m_ZoomIn_Action->setText(tr("Zoom in"));
     m_ZoomOut_Action->setText(tr("Zoom out"));
     m_ZoomReset_Action->setText(tr("Zoom Reset"));
@@ -95,8 +117,13 @@ void ZN64PLLConfig::NewMCUConfig(ZN64MCUSERIALS series)
 {
     AllConfigFormClose();
     m_pllConfigWidget = createSeriesPage(series, this);
-    if (m_pllConfigWidget)
-        m_main_VBoxLayout->addWidget(named("m_pllConfigWidget", m_pllConfigWidget));
+    if (!m_pllConfigWidget)
+        return;
+    delete m_start_Label;
+    m_start_Label = nullptr;
+    m_main_VBoxLayout->addWidget(named("m_pllConfigWidget", m_pllConfigWidget));
+    // The keys are the tree's from the start: Tab goes to its first control.
+    m_pllConfigWidget->view()->setFocus();
 }
 
 void ZN64PLLConfig::AllConfigFormClose()
@@ -138,8 +165,8 @@ void ZN64PLLConfig::ConfigReset()
         showMessage(QMessageBox::Warning, tr("Warning"),
                     tr("The current configuration will be reset. Please confirm whether to continue?"),
                     {
-                        {QMessageBox::Yes,    tr("Yes")   },
-                        {QMessageBox::Cancel, tr("Cancel")}
+                        {QMessageBox::Cancel, tr("Cancel")},
+                        {QMessageBox::Yes,    tr("Yes")   }
     },
                     this);
     if (answer != QMessageBox::Cancel)

@@ -8,6 +8,7 @@
 class ClockTreePage;
 class QAction;
 class QGroupBox;
+class QLabel;
 class QToolBar;
 class QVBoxLayout;
 
@@ -51,9 +52,13 @@ private:
     void CreateActions();
     QAction* newAction(const char* memberName, const QString& icon, const char* slot);
     void createToolBar();
+    void createStartLabel();
+    void translateStartLabel();
     void showNotSupported();
 
     QVBoxLayout* m_main_VBoxLayout;
+    /// How to begin; goes with the first page.
+    QLabel* m_start_Label = nullptr;
     QGroupBox* m_toolBarGroupBox;
     /// The series name last read from a design file; empty after an unknown one.
     QString m_MCUName;

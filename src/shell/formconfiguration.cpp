@@ -39,6 +39,7 @@ FormConfiguration::FormConfiguration(QWidget* parent) : QWidget(parent)
     setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
     setWindowState(Qt::WindowMaximized);
     setContentsMargins(0, 0, 0, 0);
+    setAcceptDrops(true);
     setMinimumSize(smallestSize(QGuiApplication::primaryScreen()->availableSize()));
     setWindowTitle(QStringLiteral("Velmora Clockwright ") + QLatin1String(versionText));
     connectSlots();

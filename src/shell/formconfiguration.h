@@ -46,6 +46,9 @@ public:
 protected:
     /// Asks while a design is active, whether it was saved or not.
     void closeEvent(QCloseEvent* event) override;
+    /// A design file that is dropped on the window opens as by Open.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private slots:
     void ClockConfig_PushButton_Slot();
@@ -80,6 +83,9 @@ private:
 
     /// Whether the user agrees to the question about the active design; true without asking if there is none.
     bool mayCloseDesign(QMessageBox::Icon icon, const QString& question);
+    /// Asks what Open asks first.
+    bool mayOpenDesign();
+    void openDesign(const QString& path);
     void showNoConfiguration();
     /// Writes the files of the preview. 0 done, 1 no design, 2 the generation failed; 1 and 2 were told to
     /// the user.

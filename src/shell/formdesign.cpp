@@ -9,6 +9,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
 
 namespace {
 
@@ -16,6 +20,14 @@ namespace {
 bool dialogIsOpen()
 {
     return QApplication::activeModalWidget() != nullptr;
+}
+
+/// The path of the one design file that is dropped; empty if it is something else.
+QString droppedDesign(const QMimeData* data)
+{
+    const QList<QUrl> urls = data->urls();
+    const QString path = urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    return path.endsWith(QLatin1String(".ZNCK"), Qt::CaseInsensitive) ? path : QString();
 }
 
 } // namespace
@@ -26,8 +38,8 @@ bool FormConfiguration::mayCloseDesign(QMessageBox::Icon icon, const QString& qu
         return true;
     const int answer = showMessage(icon, tr("Warning"), question,
                                    {
-                                       {QMessageBox::Yes,    tr("Yes")   },
-                                       {QMessageBox::Cancel, tr("Cancel")}
+                                       {QMessageBox::Cancel, tr("Cancel")},
+                                       {QMessageBox::Yes,    tr("Yes")   }
     },
                                    this);
     return answer != QMessageBox::Cancel;
@@ -63,16 +75,25 @@ void FormConfiguration::NewDesign_Slot()
         showClockPage();
 }
 
+bool FormConfiguration::mayOpenDesign()
+{
+    return !dialogIsOpen() &&
+           mayCloseDesign(
+               QMessageBox::Warning,
+               tr("The current configuration will be closed. Please confirm whether to continue?"));
+}
+
 void FormConfiguration::OpenDesign_Slot()
 {
-    if (dialogIsOpen())
-        return;
-    if (!mayCloseDesign(QMessageBox::Warning,
-                        tr("The current configuration will be closed. Please confirm whether to continue?")))
+    if (!mayOpenDesign())
         return;
     const QString path = filedialogs::fileToOpen(this, tr("Open"), tr("Config file (*.ZNCK)"));
-    if (path.isNull())
-        return;
+    if (!path.isNull())
+        openDesign(path);
+}
+
+void FormConfiguration::openDesign(const QString& path)
+{
     // Empty, not null: after a refused file the name is lost while the old design and the button's text stay,
     // and a switch of the language then shows the button without a series. This is meant.
     QString seriesName = QStringLiteral("");
@@ -80,6 +101,26 @@ void FormConfiguration::OpenDesign_Slot()
     m_MCUSerials = seriesName;
     if (!m_MCUSerials.isEmpty())
         showSeriesOnButton();
+}
+
+void FormConfiguration::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedDesign(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void FormConfiguration::dropEvent(QDropEvent* event)
+{
+    const QString path = droppedDesign(event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // Behind the drop: the program that the file comes from waits until this returns, and there are
+    // questions.
+    QTimer::singleShot(0, this, [this, path] {
+        if (mayOpenDesign())
+            openDesign(path);
+    });
 }
 
 void FormConfiguration::SaveDesign_Slot()

@@ -44,6 +44,7 @@ void FormConfiguration::switchLanguage(LANGUAGE language)
     // Fails when no table could be loaded at the start. Then both entries stay checked.
     if (!QCoreApplication::removeTranslator(m_translator))
         return;
+    installFurtherTables(language);
     m_translator->load(translationTable(language));
     QCoreApplication::installTranslator(m_translator);
     SetLanguage(language);

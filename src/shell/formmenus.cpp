@@ -83,7 +83,9 @@ void FormConfiguration::CreateMenuBar()
     m_MenuBar->setFont(font);
     m_MenuBar->setStyleSheet(
         QStringLiteral("QMenuBar{background-color: rgb(255, 255, 255); spacing: 40px;}"
-                       "QMenuBar::item{background-color: rgb(255, 255, 255); color: rgb(0, 32, 82);}"));
+                       "QMenuBar::item{background-color: rgb(255, 255, 255); color: rgb(0, 32, 82); "
+                       "border: 2px solid transparent; border-radius: 2px;}"
+                       "QMenuBar::item:selected{border-color: rgb(0, 32, 82);}"));
     m_FileMenu = newMenu("m_FileMenu", {m_New_Action, m_Open_Action, m_Save_Action});
     m_FileMenu->setFont(font);
     m_LanguageMenu = newMenu("m_LanguageMenu", {m_English_Action, m_Chinese_Action});

@@ -10,7 +10,9 @@ enum LANGUAGE
 };
 
 /// The resource path of the language's translation table.
-inline QString translationTable(LANGUAGE language)
-{
-    return language == UI_ZH ? QStringLiteral(":/image/tr_zh.qm") : QStringLiteral(":/image/tr_en.qm");
-}
+QString translationTable(LANGUAGE language);
+
+/// Installs the tables that the language needs beside its own, the toolkit's among them, in place of those of
+/// another language. They are asked after each table that is installed behind them. The application must
+/// exist.
+void installFurtherTables(LANGUAGE language);

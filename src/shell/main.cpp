@@ -22,6 +22,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     look::apply();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/ZN64_tool_CRM.ico.ico")));
+    installFurtherTables(language);
     if (loaded)
         QCoreApplication::installTranslator(&translator);
 

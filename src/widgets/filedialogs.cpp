@@ -1,11 +1,68 @@
 #include "widgets/filedialogs.h"
 
 #include "widgets/look.h"
+#include "widgets/messages.h"
 
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QPointer>
+#include <QPushButton>
 
 namespace {
+
+/// The toolkit remembers where the user went, but not a path that was typed, nor whether it was accepted.
+QString lastFolder;
+
+class FolderDialog : public QFileDialog
+{
+public:
+    FolderDialog(QWidget* parent, const QString& title) : QFileDialog(parent, title)
+    {
+        // The toolkit greys the button for a folder that does not exist; a desktop's own dialog has neither.
+        const auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const auto* buttons = findChild<QDialogButtonBox*>();
+        if (edit && buttons)
+            connect(edit, &QLineEdit::textChanged, buttons, [buttons](const QString& typed) {
+                if (!typed.isEmpty())
+                    buttons->button(QDialogButtonBox::Open)->setEnabled(true);
+            });
+    }
+
+protected:
+    void accept() override
+    {
+        const QString path = selectedFiles().value(0);
+        if (!path.isEmpty() && !QFileInfo::exists(path)) {
+            if (!mayMake(path))
+                return;
+            // Who writes into it tells if it still is not there.
+            QDir().mkpath(path);
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    bool mayMake(const QString& path)
+    {
+        const auto text = [](const char* source) {
+            return QCoreApplication::translate("FileDialogs", source);
+        };
+        const QString question =
+            text(QT_TRANSLATE_NOOP("FileDialogs", "The folder does not exist. Make it?"));
+        const int answer =
+            showMessage(QMessageBox::Question, windowTitle(), question + QLatin1Char('\n') + path,
+                        {
+                            {QMessageBox::Yes,    text(QT_TRANSLATE_NOOP("FileDialogs", "Yes"))   },
+                            {QMessageBox::Cancel, text(QT_TRANSLATE_NOOP("FileDialogs", "Cancel"))}
+        },
+                        this);
+        return answer != QMessageBox::Cancel;
+    }
+};
 
 QString ask(QFileDialog* made)
 {
@@ -16,11 +73,15 @@ QString ask(QFileDialog* made)
     dialog->setSizeGripEnabled(false);
     dialog->setStyleSheet(look::scrollBarSheet(QStringLiteral("width: 12px; height: 12px;")));
     dialog->setSupportedSchemes({QStringLiteral("file")}); // nothing from the net
+    if (QFileInfo(lastFolder).isDir())
+        dialog->setDirectory(lastFolder);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (dialog.isNull())
         return {};
     const QString path = accepted ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
+    if (!path.isNull())
+        lastFolder = QFileInfo(path).isDir() ? path : QFileInfo(path).absolutePath();
     return path;
 }
 
@@ -42,7 +103,7 @@ QString filedialogs::fileToSave(QWidget* parent, const QString& title, const QSt
 
 QString filedialogs::folder(QWidget* parent, const QString& title)
 {
-    auto* dialog = new QFileDialog(parent, title);
+    auto* dialog = new FolderDialog(parent, title);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     return ask(dialog);

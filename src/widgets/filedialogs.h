@@ -5,14 +5,15 @@
 class QWidget;
 
 /// The ways to ask for a file or a folder, by a modal dialog with the title. The result is null when the user
-/// cancels, or when the parent died while the dialog was open.
+/// cancels, or when the parent died while the dialog was open. Each begins in the folder of the path that was
+/// accepted last, by whichever of them.
 namespace filedialogs {
 
 /// filter is as QFileDialog takes it, "Config file (*.ZNCK)".
 QString fileToOpen(QWidget* parent, const QString& title, const QString& filter);
 /// The user may name a file that does not exist; no suffix is added.
 QString fileToSave(QWidget* parent, const QString& title, const QString& filter);
-/// An existing folder; the dialog shows folders only.
+/// An existing folder; the dialog shows folders only, and offers to make the one that the user typed.
 QString folder(QWidget* parent, const QString& title);
 
 } // namespace filedialogs

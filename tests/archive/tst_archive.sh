@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# tst_archive.sh BUILD DRIVER CHANGELOG: packs the archive of a build and tries it as the ordinary user who got it.
+# tst_archive.sh BUILD DRIVER CHANGELOG PACKAGING: packs the archive of a build and tries it as the ordinary user who got it.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 
@@ -25,9 +25,13 @@ as_user() {
         QT_QPA_PLATFORM=offscreen "$@"
 }
 
-cpack --config "$1/CPackConfig.cmake" -B "$tmp" >"$tmp/log" 2>&1 || fail "not packed: $(cat "$tmp/log")"
-archive=$(echo "$tmp"/*.tar.gz)
-name=$(basename "$archive" .tar.gz)
+# Packed by two people: nothing of either is in it, and it is small.
+pack() { (umask "$1" && mkdir "$tmp/$1" && "$5/pack.sh" "$2" "$tmp/$1"); }
+archive=$(pack 022 "$@")
+cmp "$archive" "$(pack 077 "$@")"
+same "owners" "0/0" "$(tar --numeric-owner -tvf "$archive" | awk '{print $2}' | sort -u)"
+[ "$(stat -c %s "$archive")" -lt 6000000 ] || fail "the archive has $(stat -c %s "$archive") bytes"
+name=$(basename "$archive" .tar.xz)
 id=org.clockwright.ZN64Clockwright
 version=$(sed -n '/^## /{s/^## \([0-9.]*\).*/\1/p;q}' "$3")
 same "name" "ZN64_Clockwright-$version-linux-$(uname -m)" "$name"
@@ -37,6 +41,7 @@ top=$home/$name
 icons=$(for size in 16 22 24 32 48 64 96 128 256 512; do
     echo "share/icons/hicolor/${size}x$size/apps/$id.png"
 done)
+examples=$(cd "$4" && printf '%s\n' examples/*.ZNCK)
 same "what is in it" "$(sort <<END
 Documents/UM_ZN64_Clockwright.pdf
 Documents/UM_ZN64_Clockwright_EN.pdf
@@ -44,6 +49,7 @@ LICENSE
 README
 bin/zn64-clockwright
 install-desktop.sh
+$examples
 share/applications/$id.desktop
 share/icons/hicolor/scalable/apps/$id.svg
 share/metainfo/$id.metainfo.xml
@@ -58,6 +64,16 @@ as_user desktop-file-validate "$top/share/applications/$id.desktop"
 as_user appstreamcli validate --no-net "$top/share/metainfo/$id.metainfo.xml" >&2
 same "newest release" "$version" \
     "$(sed -n '/<release version/{s/.*version="\([^"]*\)".*/\1/p;q}' "$top/share/metainfo/$id.metainfo.xml")"
+
+# Hardened: position-independent, read-only once it is linked, no executable stack, a guarded stack. The guard of the C
+# library shows in the commands alone: the program calls none of the functions that it replaces.
+elf=$(readelf -hldW --dyn-syms "$top/bin/zn64-clockwright")
+for mark in 'DYN (Pos' GNU_RELRO 'FLAGS).*BIND_NOW' 'GNU_STACK .* RW ' __stack_chk_fail; do
+    grep -q -- "$mark" <<<"$elf" || fail "the program is not hardened: no $mark"
+done
+same "compiled unguarded" "" \
+    "$(sed -n 's/^ *"command": //p' "$1/compile_commands.json" | grep -F zn64_shell.dir | grep -v 'D_FORTIFY_SOURCE=2')"
+! grep -qF -- "$(realpath "$1/../..")" "$top/bin/zn64-clockwright" || fail "the program holds the path of its build"
 
 # Every library that the program asks for itself is in a package that the README names, or on any Debian.
 objdump -p "$top/bin/zn64-clockwright" | awk '/NEEDED/ {print $2}' | grep -v '^lib\(c\|m\|gcc_s\|stdc++\)\.so' |
@@ -75,6 +91,12 @@ $1" "$(as_user LD_PRELOAD="$tmp/driver.so" "${@:2}")"
 as_user ln -s "$top/bin/zn64-clockwright" "$home/a link"
 as_user ln -s "$top/install-desktop.sh" "$home/to the menu"
 drive "preview shown" "$home/a link"
+
+# The examples are as the program writes them, one for each family.
+as_user mkdir "$home/saved"
+same "shown of the examples" "$(sed 's,.*/\(.*\)\.ZNCK,Clock Configuration---\1\, preview shown,' <<<"$examples")" \
+    "$(as_user LD_PRELOAD="$tmp/driver.so" SAVE_EXAMPLES_TO="$home/saved" "$top/bin/zn64-clockwright")"
+diff -r "$top/examples" "$home/saved"
 
 as_user rm -r "$top/bin/Code_Sample"
 chmod -R a-w "$top"

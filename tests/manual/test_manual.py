@@ -6,7 +6,10 @@ import pathlib
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
+
+from PIL import Image, ImageOps
 
 BUILD = pathlib.Path(sys.argv.pop(1))
 SERIES = [one["name"] for one in json.loads((BUILD / "manual/series/series.json").read_text())]
@@ -19,10 +22,14 @@ def run(*command):
 class English(unittest.TestCase):
     name = "UM_ZN64_Clockwright_EN.pdf"
     title = "ZN64 Clockwright User Manual"
+    language = b"en"
     sentences = ["the program finds the PLL's parameters", "hext input error!", "Save file succeed!"]
 
     def setUp(self):
         self.path = str(BUILD / "Documents" / self.name)
+
+    def images(self):
+        return [line.split() for line in run("pdfimages", "-list", self.path).splitlines()[2:]]
 
     def outline(self):
         self.xml = run("pdftohtml", "-xml", "-i", "-stdout", self.path)
@@ -38,10 +45,30 @@ class English(unittest.TestCase):
             self.assertIn(sentence.replace(" ", ""), text)
 
     def test_pictures_are_fine_enough_for_print(self):
-        images = [line.split() for line in run("pdfimages", "-list", self.path).splitlines()[2:]]
-        self.assertGreaterEqual(len(images), len(SERIES) + 12)
-        for image in images:
+        self.assertGreaterEqual(len(self.images()), len(SERIES) + 12)
+        for image in self.images():
             self.assertGreaterEqual(int(image[12]), 220, f"pixels per inch of a picture on page {image[0]}")
+            self.assertEqual(image[5], "index", f"a picture on page {image[0]} is large")
+
+    def test_can_be_read_aloud(self):
+        tags = run("pdfinfo", "-struct-text", self.path).splitlines()
+        self.assertEqual(sum(line.strip() == "Figure" for line in tags), len(self.images()))
+        self.assertGreaterEqual(sum(line.strip() == "H1 (block)" for line in tags), 13)
+        raw = pathlib.Path(self.path).read_bytes()
+        alternatives = [re.sub(rb"\s", b"", each) for each in re.findall(rb"/Alt (<[^>]*>|\([^)]*\))", raw)]
+        self.assertEqual(len(alternatives), len(self.images()))
+        self.assertTrue(all(len(each) > 6 for each in alternatives))
+        for wanted in (b"/DisplayDocTitle true", b"/PageMode /UseOutlines", b"/Lang (" + self.language):
+            self.assertIn(wanted, raw)
+
+    def test_no_page_is_nearly_empty(self):
+        with tempfile.TemporaryDirectory() as folder:
+            run("pdftoppm", "-r", "20", "-gray", self.path, f"{folder}/page")
+            for path in sorted(pathlib.Path(folder).iterdir()):
+                with Image.open(path) as page:
+                    body = page.crop((0, 0, page.width, int(page.height * 0.93)))
+                    ink = ImageOps.invert(body).point(lambda value: value > 40 and 255).getbbox()
+                    self.assertGreater(ink[3], page.height * 0.3, path.name)
 
     def test_fonts_are_the_wanted_ones_and_embedded(self):
         for line in run("pdffonts", self.path).splitlines()[2:]:
@@ -59,6 +86,7 @@ class English(unittest.TestCase):
 class Chinese(English):
     name = "UM_ZN64_Clockwright.pdf"
     title = "ZN64 Clockwright 用户手册"
+    language = b"zh-CN"
     sentences = ["程序就会求出 PLL 参数", "hext 输入错误！", "文件保存成功!"]
 
     def test_both_languages_have_the_same_headings(self):

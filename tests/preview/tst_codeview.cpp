@@ -4,6 +4,7 @@
 #include "preview/MyQsciScintilla.h"
 #include "preview/stems.h"
 #include "testdata.h"
+#include "widgets/framed.h"
 
 #include <QDir>
 #include <QLabel>
@@ -127,6 +128,33 @@ private slots:
             m_view->TabWidgetTabBarClicked(-1);
             load("zn64g110"_s);
         }
+    }
+
+    void keysWalkTheTabs()
+    {
+        load("zn64g110"_s);
+        auto* tabs = m_view->findChild<QTabWidget*>();
+        QVERIFY(QTest::qWaitForWindowActive(m_view.data()));
+        tabs->tabBar()->setFocus(Qt::TabFocusReason);
+        const QVector<QPair<Qt::Key, int>> steps{
+            {Qt::Key_Up,    0},
+            {Qt::Key_Down,  1},
+            {Qt::Key_Right, 2},
+            {Qt::Key_Down,  3},
+            {Qt::Key_Down,  3},
+            {Qt::Key_Up,    2},
+        };
+        for (const auto& step : steps) {
+            QTest::keyClick(tabs->tabBar(), step.first);
+            QCOMPARE(tabs->currentIndex(), step.second);
+            for (int tab = 0; tab < 4; ++tab)
+                QCOMPARE(label(tab)->styleSheet().contains("rgb(123, 199, 233)"_s), tab == step.second);
+            QVERIFY(isFramed(m_view.data(), label(step.second)));
+        }
+        editor(2)->setFocus();
+        QVERIFY(!isFramed(m_view.data(), label(2)));
+        tabs->tabBar()->setFocus(Qt::MouseFocusReason);
+        QVERIFY(!isFramed(m_view.data(), label(2)));
     }
 
     void foldAllFoldsOnceUntilExpandAll()

@@ -6,12 +6,17 @@
 #include "widgets/look.h"
 
 #include <QDir>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
 #include <QPointer>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QSizeGrip>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QToolButton>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -97,6 +102,11 @@ private slots:
                    "clock ZN64G110 | m_CodeView_PushButton | | | code ZN64G110",
                    "clock ZN64G110 | close | Cancel | quit? | clock ZN64G110",
                    "clock ZN64G110 | close | Yes | quit? | closed",
+                   "clock | drop ZN64G152 | | | clock ZN64G152",
+                   "clock | drop other | Ok | unknown | clock",
+                   "clock ZN64G110 | drop ZN64G150 | Cancel | open? | clock ZN64G110",
+                   "clock ZN64G110 | drop ZN64G150 | Yes | open? | clock ZN64G150",
+                   "code ZN64G110 | drop ZN64G150 | Yes | open? | code ZN64G150",
                    "code ZN64G110 | m_ClockConfig_PushButton | | | clock ZN64G110",
                    "code ZN64G110 | m_New_Action | Yes, pick ZN64G150 | new?, select | clock ZN64G150",
                    "code ZN64G110 | m_Open_Action | Yes, open ZN64G150 | open?, file | code ZN64G150"});
@@ -112,7 +122,10 @@ private slots:
         DialogAnswers answers;
         for (const QString& each : fields[2].split(", "_s, Qt::SkipEmptyParts))
             answers.add(answer(each));
-        m_program->run(fields[1]);
+        if (fields[1].startsWith("drop"_s))
+            drop({QUrl::fromLocalFile(m_program->designFile(fields[1].section(u' ', 1)))});
+        else
+            m_program->run(fields[1]);
 
         QStringList boxes;
         for (const QString& each : fields[3].split(", "_s, Qt::SkipEmptyParts))
@@ -127,6 +140,65 @@ private slots:
                  series.isEmpty() ? "Clock Configuration"_s : "Clock Configuration---"_s + series);
         const auto* toolBar = m_program->find<QWidget>("m_toolBarGroupBox");
         QCOMPARE(toolBar->isVisibleTo(toolBar->parentWidget()), !series.isEmpty());
+        // The empty page says how to begin; a new tree has the keys.
+        const auto* start = m_program->find<QLabel>("m_start_Label");
+        QVERIFY(series.isEmpty() ? start && !start->text().isEmpty() : !start);
+        if (!old && m_program->design())
+            QVERIFY(m_program->design()->isAncestorOf(m_program->form.focusWidget()));
+    }
+
+    void onlyADesignFileCanBeDropped_data()
+    {
+        fieldRows({"file:///a.ZNCK | taken", "file:///a.znck | taken", "file:///a.txt | refused",
+                   "https://a.example/a.ZNCK | refused", "file:///a.ZNCK file:///b.ZNCK | refused"});
+    }
+
+    void onlyADesignFileCanBeDropped()
+    {
+        QFETCH(QStringList, fields);
+        m_program->enter("clock ZN64G110"_s);
+        DialogAnswers answers({"Cancel"_s});
+        const bool taken = drop(QUrl::fromStringList(fields[0].split(u' ')));
+        QCOMPARE(taken, fields[1] == "taken"_s);
+        QCOMPARE(answers.shown().size(), int(taken));
+    }
+
+    void returnKeepsTheDesign_data()
+    {
+        fieldRows({"m_New_Action", "m_Open_Action", "close", "m_ConfigReset_Action"});
+    }
+
+    void returnKeepsTheDesign()
+    {
+        m_program->enter("clock ZN64G110"_s);
+        auto* divider = m_program->find<QComboBox>("m_ahbdiv_ComboBox");
+        divider->setCurrentIndex(3);
+        DialogAnswers answers{[](QDialog* box) { QTest::keyClick(box, Qt::Key_Return); }};
+        m_program->run(QLatin1String(QTest::currentDataTag()));
+        QCOMPARE(answers.shown().size(), 1);
+        QCOMPARE(m_program->state(), "clock ZN64G110"_s);
+        QCOMPARE(divider->currentIndex(), 3);
+    }
+
+    void heldZoomButtonsRepeat()
+    {
+        m_program->enter("clock ZN64G110"_s);
+        const auto held = [this](const char* name) {
+            auto* action =
+                m_program->find<QWidget>("m_clockConfigForm")->findChild<QAction*>(QLatin1String(name));
+            auto* button = qobject_cast<QToolButton*>(action->associatedWidgets().last());
+            QSignalSpy triggered(action, &QAction::triggered);
+            QTest::mousePress(button, Qt::LeftButton);
+            QTest::qWait(button->autoRepeatDelay() + 3 * button->autoRepeatInterval());
+            const bool repeats = triggered.count() > 1;
+            if (repeats)
+                QTest::mouseRelease(button, Qt::LeftButton);
+            else
+                QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-5, -5));
+            return repeats;
+        };
+        QVERIFY(held("m_ZoomIn_Action") && held("m_ZoomOut_Action"));
+        QVERIFY(!held("m_ZoomReset_Action") && !held("m_ConfigReset_Action"));
     }
 
     void failedOpenLosesTheName()
@@ -299,6 +371,23 @@ private slots:
     }
 
 private:
+    /// Drags the files over the page in view and drops them there. Whether they were taken.
+    bool drop(const QList<QUrl>& urls)
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        QWidget* target = m_program->form.childAt(m_program->form.rect().center());
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(target, &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &event);
+        QTest::qWait(20);
+        return event.isAccepted();
+    }
+
     /// "pick" or "open" and a series, "close", or the text of the button to press.
     DialogAnswers::Answer answer(const QString& words) const
     {

@@ -7,6 +7,7 @@
 #include <QButtonGroup>
 #include <QGraphicsProxyWidget>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QToolButton>
 #include <QWindow>
@@ -260,6 +261,28 @@ private slots:
         QVERIFY(framed());
         keyboard.press(Qt::Key_Tab);
         QVERIFY(!framed());
+    }
+
+    void menuTitleIsFramed()
+    {
+        Keyboard keyboard(ZN64G110);
+        auto* bar = keyboard.find<QMenuBar>("m_MenuBar");
+        const auto framed = [&](int menu) {
+            const QRect title = bar->actionGeometry(bar->actions().at(menu));
+            const QImage shot =
+                bar->grab(QRect(title.center().x(), title.top(), 1, title.height())).toImage();
+            return shot.pixelColor(0, 0) == QColor(0, 32, 82) || shot.pixelColor(0, 1) == QColor(0, 32, 82);
+        };
+        QVERIFY(!framed(0));
+        QTest::keyClick(&keyboard.form, Qt::Key_Alt);
+        QVERIFY(framed(0) && !framed(1));
+        QTest::keyClick(bar, Qt::Key_Right);
+        QVERIFY(!framed(0) && framed(1));
+        bar->setActiveAction(bar->actions().first());
+        QTest::keyClick(bar, Qt::Key_Down);
+        QVERIFY(QApplication::activePopupWidget());
+        QVERIFY(framed(0));
+        QApplication::activePopupWidget()->close();
     }
 };
 

@@ -2,7 +2,9 @@
 #include "testdata.h"
 
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QLabel>
 #include <QMenu>
 #include <QUrl>
 
@@ -40,6 +42,9 @@ private slots:
         // The form and the tool bar of the clock page have an entry of this name each.
         for (const QAction* each : program.form.findChildren<QAction*>("m_ZoomIn_Action"_s))
             QCOMPARE(each->text(), "放大"_s);
+        const auto* start = program.find<QLabel>("m_start_Label");
+        QVERIFY(!start || start->text().contains("新建"_s));
+        QCOMPARE(toolkitTexts(program), "查找范围：, 取消"_s);
         QCOMPARE(program.state(), state);
         QCOMPARE(program.design(), page.data());
         // A page keeps the texts that it was built with.
@@ -48,6 +53,7 @@ private slots:
         switchTo(program, "m_English_Action");
         QCOMPARE(marked(program), "English"_s);
         QCOMPARE(program.clockButton()->text(), "Clock Configuration"_s + suffix);
+        QCOMPARE(toolkitTexts(program), "Look in:, Cancel"_s);
     }
 
     void activeLanguageKeepsItsMark()
@@ -95,6 +101,23 @@ private:
     {
         program.run(QLatin1String(action));
         QCoreApplication::processEvents();
+    }
+    /// What the toolkit says of its own in the dialog of Open, with its button of a text of the program's
+    /// too.
+    static QString toolkitTexts(const FormFixture& program)
+    {
+        QString texts;
+        DialogAnswers answers;
+        if (program.design())
+            answers.add(
+                [](QDialog* box) { static_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click(); });
+        answers.add([&](QDialog* dialog) {
+            texts = dialog->findChild<QLabel*>("lookInLabel"_s)->text() + ", "_s +
+                    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->text();
+            dialog->reject();
+        });
+        program.form.findChild<QAction*>("m_Open_Action"_s)->trigger();
+        return texts;
     }
     /// The entries of the menu that carry a mark, "English" or "Chinese".
     static QString marked(const FormFixture& program)

@@ -1,5 +1,6 @@
 #include "shell/MCUSelect_Form.h"
 #include "testdata.h"
+#include "widgets/framed.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -54,6 +55,23 @@ private slots:
 
         QTRY_COMPARE(series(), "ZN64H133"_s);
         QCOMPARE(line(), "Automotive"_s);
+    }
+
+    void focusByKeyboardIsFramed()
+    {
+        QSet<QWidget*> framed;
+        for (int presses = 0; presses < 5; ++presses) {
+            QWidget* focus = m_dialog->focusWidget();
+            QVERIFY2(isFramed(m_dialog.data(), focus), qPrintable(focus->objectName()));
+            framed += focus;
+            QTest::keyClick(m_dialog.data(), Qt::Key_Tab);
+        }
+        QCOMPARE(framed.size(), 5);
+        auto* list = box("m_MCUSerial_ComboBox");
+        QTest::mouseClick(list, Qt::LeftButton);
+        list->hidePopup();
+        list->setFocus(Qt::MouseFocusReason);
+        QVERIFY(!isFramed(m_dialog.data(), list));
     }
 
 private:

@@ -2,6 +2,7 @@
 #include "testdata.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
@@ -13,6 +14,7 @@ int clockwrightMain(int argc, char* argv[]);
 namespace {
 
 QString menus;
+QString lookIn;
 QStringList faintColors;
 
 /// "Menu: entry, entry | Menu: entry", with a star at the entries that carry a mark.
@@ -52,6 +54,7 @@ void lookAndLeave()
     QTimer::singleShot(0, QCoreApplication::instance(), [] {
         for (const QWidget* each : QApplication::topLevelWidgets())
             if (qobject_cast<const FormConfiguration*>(each) && each->isVisible()) {
+                lookIn = QFileDialog::tr("Look in:");
                 menus = describe(each->findChild<QMenuBar*>());
                 faintColors =
                     faintColorsOf(QApplication::palette()) + faintColorsOf(QApplication::palette("QMenu"));
@@ -88,6 +91,7 @@ void TestStart::languageAndMenus()
     char name[] = "clockwright";
     char* arguments[] = {name, nullptr};
     QCOMPARE(clockwrightMain(1, arguments), 0);
+    QCOMPARE(lookIn, chinese ? "查找范围："_s : "Look in:"_s);
     QCOMPARE(faintColors, QStringList());
     QCOMPARE(
         menus,

@@ -4,6 +4,7 @@
 #include "tour.h"
 
 #include <QApplication>
+#include <QGraphicsScene>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
@@ -31,6 +32,22 @@ void keepForm(Tour& tour, const char* name)
     keep(tour, tour.form().grab(), name, tour.form().windowTitle());
 }
 
+/// Makes the area so large that its edges cut no control and no caption.
+void growToWhole(QRectF& area, const QGraphicsScene& scene)
+{
+    constexpr int margin = 3; // picture pixels
+    for (bool grown = true; grown;) {
+        grown = false;
+        for (const QGraphicsItem* item : scene.items(area)) {
+            const QRectF place = item->sceneBoundingRect().adjusted(-margin, -margin, margin, margin);
+            if (!item->isWidget() || area.contains(place))
+                continue;
+            area |= place;
+            grown = true;
+        }
+    }
+}
+
 /// The part of the tree around these controls, and as many picture pixels more to the right, where outputs
 /// have their names.
 void keepAround(Tour& tour, std::initializer_list<const char*> controls, const char* name, int right = 0)
@@ -42,6 +59,7 @@ void keepAround(Tour& tour, std::initializer_list<const char*> controls, const c
         area |= ZN64MCUPLL::proxyOf(tour.control<QWidget>(each))->sceneBoundingRect();
     auto* view = tour.form().findChild<PinGraphicsView*>();
     area.adjust(-margin, -margin, margin + right, margin);
+    growToWhole(area, *view->scene());
     const QRect inView = view->mapFromScene(area).boundingRect() & view->viewport()->rect();
     keep(tour, view->viewport()->grab(inView), name);
 }
