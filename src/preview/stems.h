@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The stem of the generated files' names, such as "zn64g150_152" for a series name in any case. A name of no series
-/// gives its own lower-case form.
+/// The stem of the generated files' names, such as "zn64g150_152" for a series name in any case. A name of no
+/// series gives its own lower-case form.
 QString fileStemOfSeries(const QString& seriesName);

@@ -307,6 +307,10 @@ void TestEdits::usbAndRtc_data()
         "G110R | tousbswitch=enable tousb_hick sclk_lineEdit=240 tousb_pll | | sclk_lineEdit: 192.000; "
         "usbdiv_ComboBox: /4",
         "G120 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: 192.000",
+        "G135 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: 96.000",
+        "G135 | sclk_lineEdit=90 tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; "
+        "sclk_lineEdit: 96.000",
+        "G125 | sclk_lineEdit=104 tousbswitch=enable | | sclk_lineEdit: 104.000",
         "G135 | pllmode=flexible sclkselect_hick tousbswitch=enable usbdiv=/3 | | usbclock_Label?: 48.000 "
         "MHz "
         "darkGreen; pllmult_ComboBox: * 12; pllfr_ComboBox: /4",
@@ -362,6 +366,8 @@ void TestEdits::clockOutputs_data()
         "G150 | clockout1pin=PA8 pllrcs_hick | | clockout1_hick_QLabel: (48.000 MHz)",
         "G150 | clockout1pin=PA8 sclkselect_hick hicktosclk | | clockout1_hick_QLabel: (48.000 MHz)",
         "G150 | clockout1pin=PA8 sclkselect_hick | | clockout1_hick_QLabel: (8.000 MHz)",
+        "G133 H133 | clockoutpin=PA8 clockout_hick sclkselect_hick hicktosclk | | clockout_Value_QLabel: "
+        "(8.000 MHz)",
         "G150 | clockout1pin=PA8 tousbswitch=enable tousb_hick | | clockout1_hick_QLabel: (48.000 MHz)",
         "G150 | clockout1pin=PA8 tousbswitch=enable tousb_hick tousbswitch=disable | | "
         "clockout1_hick_QLabel: (8.000 MHz)",

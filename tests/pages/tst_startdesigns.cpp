@@ -15,6 +15,8 @@ private slots:
     void newDesigns();
     void captions_data();
     void captions();
+    void columns_data();
+    void columns();
     void redAboveTheirLimits_data();
     void redAboveTheirLimits();
     void sourcesTellTheirClocks_data() { pageRows(); }
@@ -121,6 +123,140 @@ void TestStartDesigns::captions()
     QFETCH(QStringList, fields);
     const PageFixture& page = resetPage(fields[0]);
     QCOMPARE(page.shows(fields[1]), fields[1]);
+}
+
+void TestStartDesigns::columns_data()
+{
+    // The outputs from top to bottom; the lists of what hangs on the buses and on their timers.
+    rows({
+        "G110 | i2s systick sido dma xmc apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 SPI3 SPI4 USART2 USART3 UART4 UART5 I2C1 I2C2 I2C3 CAN1 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "GPIOA GPIOB GPIOC GPIOD GPIOE GPIOF GPIOG SPI1 USART1; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11 TMR15",
+        "G110R H110R | i2s systick sido dma xmc gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 SPI3 SPI4 USART2 USART3 UART4 UART5 I2C1 I2C2 CAN1 CAN2 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "I2C3 SPI1 USART1 USART6 UART7 UART8; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11",
+        "G114 | i2s systick sido dma xmc emac gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 SPI3 SPI4 USART2 USART3 UART4 UART5 I2C1 I2C2 CAN1 CAN2 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "I2C3 SPI1 USART1 USART6 UART7 UART8; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11",
+        "G120 | i2s systick sido dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 USART2 USART3 UART4 UART5 I2C1 I2C2 CAN1 CAN2; "
+        "TMR2 TMR3 TMR4 TMR5; "
+        "SPI1 USART1; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11",
+        "G125 | i2s systick sido dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 USART2 USART3 UART4 UART5 I2C1 I2C2 CAN1 CMP; "
+        "TMR2 TMR3 TMR4 TMR5; "
+        "SPI1 USART1; "
+        "TMR1 TMR9 TMR10 TMR11",
+        "TQ125 | systick dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 USART2 USART3 UART5 I2C1 CAN1 CMP; "
+        "TMR2 TMR3 TMR4 TMR5; "
+        "USART1; "
+        "TMR1 TMR9 TMR10 TMR11",
+        "G130 | i2s systick dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 USART2 I2C1 I2C2; "
+        "TMR3 TMR6 TMR14; "
+        "SPI1 USART1 SCFG CMP; "
+        "TMR1 TMR15 TMR16 TMR17",
+        "G135 | i2s systick dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 SPI3 USART2 USART3 USART4 I2C1 I2C2 CAN1; "
+        "TMR2 TMR3 TMR6 TMR7 TMR13 TMR14; "
+        "SPI1 USART1 SCFG; "
+        "TMR1 TMR15 TMR16 TMR17",
+        "D042 | i2s systick dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr | "
+        "SPI2 USART3 USART4 I2C2 CAN1; "
+        "TMR3 TMR6 TMR14; "
+        "SCFG ADC1 SPI1; "
+        "TMR1 TMR15 TMR16 TMR17",
+        "G142 G146 | i2s systick dma gpio apb1peripheral apb1tmr adc apb2peripheral apb2tmr apb3peripheral | "
+        "SPI2 USART2 I2C1 I2C2 CAN1; "
+        "TMR3 TMR4 TMR6; "
+        "SPI1 USART1 SCFG CMP; "
+        "TMR1 TMR15 TMR16 TMR17",
+        "G133 H133 | i2s systick dma xmc gpio apb1peripheral apb1tmr apb2peripheral apb2tmr | "
+        "SPI2 SPI3 USART2 USART3 UART4 UART5 UART7 UART8 I2C1 I2C2 I2C3 CAN1 CAN2 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "SPI1 USART1 USART6 SCFG; "
+        "TMR1 TMR9 TMR10 TMR11",
+        "P212 P216 | i2s systick dma gpio apb1peripheral apb1tmr apb2peripheral apb2tmr apb3peripheral | "
+        "DAC SPI2 USART2 I2C1 I2C2 CAN1; "
+        "TMR3 TMR4 TMR6 TMR7; "
+        "SPI1 SCFG ADC USART1 OP CMP; "
+        "TMR1 TMR9 TMR10 TMR11",
+        "G171 G190 | i2s systick dma xmc gpio apb1peripheral apb1tmr apb2peripheral apb2tmr | "
+        "SPI2 SPI3 USART2 USART3 USART4 USART5 USART7 USART8 I2C1 I2C2 I2C3 CAN1; "
+        "TMR2 TMR3 TMR4 TMR6 TMR7 TMR13 TMR14; "
+        "ACC I2SF5 SPI1 SCFG ADC1 USART1 USART6; "
+        "TMR1 TMR9 TMR10 TMR11",
+        "G174 | i2s systick dma xmc gpio apb1peripheral apb1tmr apb2peripheral apb2tmr usbhsphy | "
+        "SPI2 SPI3 USART2 USART3 USART4 USART5 USART7 USART8 I2C1 I2C2 I2C3 CAN1; "
+        "TMR2 TMR3 TMR4 TMR6 TMR7 TMR13 TMR14; "
+        "ACC I2SF5 SPI1 SCFG ADC1 USART1 USART6; "
+        "TMR1 TMR9 TMR10 TMR11",
+        "G165 G166 | i2s systick sido dma xmc gpio aes trng qspi adc apb1peripheral apb1tmr apb2peripheral "
+        "apb2tmr apb3peripheral | "
+        "SPI2 SPI3 USART2 USART3 USART4 USART5 USART7 USART8 I2C1 I2C2 I2C3 CAN1 CAN2 CAN3 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "SPI1 SPI4 USART1 USART6 SCFG; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11",
+        "G167 | i2s systick sido dma xmc gpio aes trng qspi emac adc apb1peripheral apb1tmr apb2peripheral "
+        "apb2tmr apb3peripheral | "
+        "SPI2 SPI3 USART2 USART3 USART4 USART5 USART7 USART8 I2C1 I2C2 I2C3 CAN1 CAN2 CAN3 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "SPI1 SPI4 USART1 USART6 SCFG; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11",
+        "G150 | i2s systick sido dma xmc gpio dvp qspi adc apb1peripheral apb1tmr apb2peripheral apb2tmr | "
+        "SPI2 SPI3 USART2 USART3 UART4 UART5 UART7 UART8 I2C1 I2C2 I2C3 CAN1 CAN2 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "SPI1 SPI4 USART1 USART6 SCFG; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11 TMR20",
+        "G152 | i2s systick sido dma xmc gpio dvp qspi emac adc apb1peripheral apb1tmr apb2peripheral "
+        "apb2tmr | "
+        "SPI2 SPI3 USART2 USART3 UART4 UART5 UART7 UART8 I2C1 I2C2 I2C3 CAN1 CAN2 DAC; "
+        "TMR2 TMR3 TMR4 TMR5 TMR6 TMR7 TMR12 TMR13 TMR14; "
+        "SPI1 SPI4 USART1 USART6 SCFG; "
+        "TMR1 TMR8 TMR9 TMR10 TMR11 TMR20",
+    });
+}
+
+void TestStartDesigns::columns()
+{
+    QFETCH(QStringList, fields);
+    const PageFixture& page = resetPage(fields[0]);
+    const auto placeOf = [&page](const QString& name) {
+        return ZN64MCUPLL::proxyOf(page.find(name.mid(2)))->sceneBoundingRect();
+    };
+    const int left = int(placeOf("m_toapb1tmr_lineEdit"_s).left());
+    QMap<int, QString> outputs;
+    for (const QWidget* edit :
+         page.page->findChildren<QLineEdit*>(QRegularExpression(QStringLiteral("^m_to.*_lineEdit$")))) {
+        const QRectF place = placeOf(edit->objectName());
+        if (qAbs(place.left() - left) < 5)
+            outputs.insert(int(place.top()), edit->objectName().mid(4).chopped(9));
+    }
+    QCOMPARE(QStringList(outputs.values()).join(u' '), fields[1]);
+
+    QStringList lists;
+    for (const ListNames& names : listNames()) {
+        QStringList list;
+        for (const QLabel* label : page.find(QLatin1String(names.group + 2))->findChildren<QLabel*>())
+            list += label->text();
+        lists += list.join(u' ');
+        // A list opens below its button, or ends beside it.
+        const QRectF output = placeOf(QLatin1String(names.output));
+        const QRectF opened = placeOf(QLatin1String(names.group));
+        const qreal down = opened.top() - output.top();
+        const qreal rest = opened.bottom() - output.top();
+        QVERIFY2(down == 40 || down == 45 || (rest >= 19 && rest <= 22),
+                 qPrintable(QStringLiteral("%1 %2 %3").arg(QLatin1String(names.group)).arg(down).arg(rest)));
+    }
+    QCOMPARE(lists.join("; "_s), fields[2]);
 }
 
 void TestStartDesigns::redAboveTheirLimits_data()
