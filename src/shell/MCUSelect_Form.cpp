@@ -22,8 +22,7 @@ struct ProductLine
     const char* devices;
 };
 
-/// ZN64G110, ZN64G190, ZN64G142 and ZN64G146 are left out on purpose: their designs are only opened from
-/// files.
+/// ZN64G110, ZN64G190, ZN64G142 and ZN64G146 are not for new designs: theirs are only opened from files.
 constexpr ProductLine productLines[] = {
     {QT_TRANSLATE_NOOP("MCUSelect_Form", "Mainstream"),
      "ZN64G171 ZN64G110R ZN64G174 ZN64G114 ZN64G120 ZN64G165 ZN64G166 ZN64G167"                    },

@@ -95,7 +95,7 @@ void FormConfiguration::OpenDesign_Slot()
 void FormConfiguration::openDesign(const QString& path)
 {
     // Empty, not null: after a refused file the name is lost while the old design and the button's text stay,
-    // and a switch of the language then shows the button without a series. This is meant.
+    // and a switch of the language then shows the button without a series, as users know it.
     QString seriesName = QStringLiteral("");
     m_clockConfigForm->OpenFromFile(path, seriesName);
     m_MCUSerials = seriesName;
