@@ -33,7 +33,7 @@ same "owners" "0/0" "$(tar --numeric-owner -tvf "$archive" | awk '{print $2}' | 
 [ "$(stat -c %s "$archive")" -lt 6000000 ] || fail "the archive has $(stat -c %s "$archive") bytes"
 name=$(basename "$archive" .tar.xz)
 id=org.clockwright.ZN64Clockwright
-version=$(sed -n '/^## /{s/^## \([0-9.]*\).*/\1/p;q}' "$3")
+version=$(sed -n '/^## [0-9]/{s/^## \([0-9.]*\).*/\1/p;q}' "$3")
 same "name" "ZN64_Clockwright-$version-linux-$(uname -m)" "$name"
 
 as_user tar -C "$home" -xf "$archive"
