@@ -1,5 +1,7 @@
 #include "pages/description/clockoutputs.h"
 
+#include <utility>
+
 // clang-format off
 namespace clockoutputs {
 
@@ -17,6 +19,9 @@ const ClockOutputRow usbOfTwo   {CLKOUT_USBFS,   "usbfs",   ClockSource::Usb, "u
 const ClockOutputRow adcSwitched{CLKOUT_ADCCLK,  "adcclk",  ClockSource::Adc, "adcclk", RowGate::Adc, 10};
 const ClockOutputRow adcclk     {CLKOUT_ADCCLK,  "adcclk",  ClockSource::Adc, "adcclk", RowGate::None, 10};
 const ClockOutputRow adc        {CLKOUT_ADCCLK,  "adc",     ClockSource::Adc};
+
+const std::vector<ClockOutputRow> tenSources{noclk, lick, lext, hick, hext, sclk, usb, adcSwitched, pllDiv2, pllDiv4};
+const std::vector<ClockOutputRow> nineSources{noclk, lick, lext, hick, hext, sclk, adcSwitched, pllDiv2, pllDiv4};
 
 const PinChoice pa8 {"PA8",  CLKOUTPIN_PA8};
 const PinChoice pa9 {"PA9",  CLKOUTPIN_PA9};
@@ -36,9 +41,11 @@ ClockOutput clockoutputs::single()
     return output;
 }
 
-ClockOutput clockoutputs::singleDivided()
+ClockOutput clockoutputs::singleDivided(std::vector<PinChoice> pins, std::vector<ClockOutputRow> rows)
 {
     ClockOutput output = single();
+    output.pins = std::move(pins);
+    output.rows = std::move(rows);
     output.dividers = {dividers::clockOutput()};
     output.lextNeedsRtc = true;
     return output;

@@ -57,11 +57,10 @@ PageDescription ZN64D042PLL::describe()
     page.hickAtOutputs = HickAtOutputs::Always48;
 
     using namespace clockoutputs;
-    ClockOutput output = singleDivided();
-    output.lextNeedsRtc = false;
-    output.pins = {pa8, pa9, pb13};
     const ClockOutputRow hick48{CLKOUT_HICK, "hick", ClockSource::Hick, "hick48", RowGate::None, 10};
-    output.rows = {noclk, lick, lext, hick48, hext, sclk, adcSwitched, pllDiv2, pllDiv4};
+    ClockOutput output = singleDivided(
+        {pa8, pa9, pb13}, {noclk, lick, lext, hick48, hext, sclk, adcSwitched, pllDiv2, pllDiv4});
+    output.lextNeedsRtc = false;
     page.clockOutputs = {output};
     return page;
 }

@@ -28,10 +28,7 @@ PageDescription ZN64G120PLL::describe()
     page.usbMovesBusyPll = true;
 
     using namespace clockoutputs;
-    ClockOutput output = singleDivided();
-    output.pins = {pa8};
-    output.rows = {noclk, lick, lext, hick, hext, sclk, usb, adcSwitched, pllDiv2, pllDiv4};
-    page.clockOutputs = {output};
+    page.clockOutputs = {singleDivided({pa8}, tenSources)};
     return page;
 }
 

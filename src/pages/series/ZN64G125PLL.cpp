@@ -33,10 +33,7 @@ PageDescription ZN64G125PLL::describe()
     };
 
     using namespace clockoutputs;
-    ClockOutput output = singleDivided();
-    output.pins = {pa8};
-    output.rows = {noclk, lick, lext, hick, hext, sclk, usb, adcSwitched, pllDiv2, pllDiv4};
-    page.clockOutputs = {output};
+    page.clockOutputs = {singleDivided({pa8}, tenSources)};
     return page;
 }
 

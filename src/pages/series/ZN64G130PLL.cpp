@@ -30,10 +30,7 @@ PageDescription ZN64G130PLL::describe()
     page.rtcHextDivisor = 32.0;
 
     using namespace clockoutputs;
-    ClockOutput output = singleDivided();
-    output.pins = {pa8, pa9};
-    output.rows = {noclk, lick, lext, hick, hext, sclk, adcSwitched, pllDiv2, pllDiv4};
-    page.clockOutputs = {output};
+    page.clockOutputs = {singleDivided({pa8, pa9}, nineSources)};
     return page;
 }
 

@@ -31,10 +31,7 @@ PageDescription ZN64G135PLL::describe()
     page.usbMovesBusyPll = true;
 
     using namespace clockoutputs;
-    ClockOutput output = singleDivided();
-    output.pins = {pa8, pa9, pb13};
-    output.rows = {noclk, lick, lext, hick, hext, sclk, usb, adcSwitched, pllDiv2, pllDiv4};
-    page.clockOutputs = {output};
+    page.clockOutputs = {singleDivided({pa8, pa9, pb13}, tenSources)};
     return page;
 }
 

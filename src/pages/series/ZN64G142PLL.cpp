@@ -45,10 +45,7 @@ PageDescription ZN64G142PLL::describe()
     page.peripherals[0].limit = 180.0;
 
     using namespace clockoutputs;
-    ClockOutput output = singleDivided();
-    output.pins = {pa8, pa9};
-    output.rows = {noclk, lick, lext, hick, hext, sclk, adcSwitched, pllDiv2, pllDiv4};
-    page.clockOutputs = {output};
+    page.clockOutputs = {singleDivided({pa8, pa9}, nineSources)};
     return page;
 }
 

@@ -28,17 +28,19 @@ ClockOutput clockOutput2()
     output.pins = {
         {"PC9", CLKOUT2PIN_PC9}
     };
+    // clang-format off
     output.rows = {
-        {CLKOUT2_SCLK,         "sclk", ClockSource::Sclk },
-        {CLKOUT2_HEXT,         "hext", ClockSource::Hext },
-        {CLKOUT2_PLL,          "pll",  ClockSource::Pll  },
-        {CLKOUT2_USB,          "usb",  ClockSource::Usb,   "usb", RowGate::Usb},
-        {CLKOUT2_HICK,        "hick",              ClockSource::Hick                    },
- // Without a divider of the ADC on the page nobody knows what the ADC makes of its clock.
-        {CLKOUT2_ADCCLK,   "adcclk",ClockSource::Untold},
-        {CLKOUT2_LICK, "lick",            ClockSource::Lick                                      },
-        {CLKOUT2_LEXT,   "lext",ClockSource::Lext}
+        {CLKOUT2_SCLK,   "sclk",   ClockSource::Sclk},
+        {CLKOUT2_HEXT,   "hext",   ClockSource::Hext},
+        {CLKOUT2_PLL,    "pll",    ClockSource::Pll},
+        {CLKOUT2_USB,    "usb",    ClockSource::Usb, "usb", RowGate::Usb},
+        {CLKOUT2_HICK,   "hick",   ClockSource::Hick},
+        // Without a divider of the ADC on the page nobody knows what the ADC makes of its clock.
+        {CLKOUT2_ADCCLK, "adcclk", ClockSource::Untold},
+        {CLKOUT2_LICK,   "lick",   ClockSource::Lick},
+        {CLKOUT2_LEXT,   "lext",   ClockSource::Lext}
     };
+    // clang-format on
     return output;
 }
 
