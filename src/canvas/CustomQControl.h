@@ -38,6 +38,11 @@ public:
     /// Enables or greys the combo together with its outline. Pages use this and not setEnabled().
     void setEnabledStatus(bool enabled);
 
+    /// Makes it a switch, through which nothing passes while this item is chosen.
+    void setOffItem(int index) { m_offItem = index; }
+    /// Whether it is a switch that is off.
+    bool isOff() const { return m_offItem >= 0 && currentIndex() == m_offItem; }
+
     CustomListView* listView() const { return m_tempListView; }
 
 signals:
@@ -52,4 +57,5 @@ protected:
 
 private:
     CustomListView* m_tempListView;
+    int m_offItem = -1;
 };

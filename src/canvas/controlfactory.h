@@ -30,6 +30,8 @@ public:
     PinGraphicsView* view() const { return m_GraphicsView; }
     /// The walk by the keyboard; the page gives it its controls.
     TabOrder& tabOrder() { return m_tabOrder; }
+    /// The picture behind the controls.
+    TreeItem& treeItem() const { return *m_background; }
 
     /// The scene item that carries a control of the factory; null for any other widget.
     static QGraphicsProxyWidget* proxyOf(const QWidget* control);

@@ -25,6 +25,7 @@ void ClockTreePage::build()
 {
     createBlocks();
     NewAllControl();
+    treeItem().follow(findChildren<QWidget*>());
     orderSettings();
     view()->setAccessibleName(QStringLiteral("clock tree"));
     view()->setAccessibleDescription(

@@ -12,6 +12,13 @@ namespace tree {
 namespace {
 
 const QColor ink(0, 32, 82);
+// What is not in use: there, and out of the way.
+const QColor idleInk(200, 209, 220);
+const QColor idleText(160, 170, 184);
+const QColor redInk(224, 0, 0);
+// Around what is marked, below everything else.
+const QColor halo(170, 228, 250);
+constexpr double haloWidth = 9;
 const QColor muxFrame(57, 169, 220);
 // The frame of the pages' own boxes with a fixed step.
 const QColor boxFrame(10, 78, 121);
@@ -88,13 +95,14 @@ QPointF unit(const QPointF& way)
     return length > 0 ? way / length : QPointF();
 }
 
-void drawArrow(QPainter& painter, const Grid& grid, const Wire& wire, const QPointF& tip, const QPointF& way)
+void drawArrow(QPainter& painter, const Grid& grid, const Wire& wire, const QPointF& tip, const QPointF& way,
+               const QColor& color)
 {
     const QSizeF size = arrowOf(wire) * grid.scale();
     const QPointF across = QPointF(-way.y(), way.x()) * (size.height() / 2);
     const QPointF base = tip - way * size.width();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ink);
+    painter.setBrush(color);
     painter.drawPolygon(QPolygonF{
         {tip, base + across, base - across}
     });
@@ -118,7 +126,28 @@ QPainterPath pathOf(const Wire& wire, const Grid& grid, const QPolygonF& points)
     return path;
 }
 
-void drawWire(QPainter& painter, const Grid& grid, const Wire& wire)
+QColor colorOf(Use use)
+{
+    switch (use) {
+    case Use::Idle:
+        return idleInk;
+    case Use::Red:
+        return redInk;
+    case Use::InUse:
+        break;
+    }
+    return ink;
+}
+
+void drawDot(QPainter& painter, const Grid& grid, const Wire& wire, const QColor& color)
+{
+    const QPointF joint = grid.onStroke(wire.points.first(), grid.width(wire.width));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(joint, wire.dot * grid.scale(), wire.dot * grid.scale());
+}
+
+void drawWire(QPainter& painter, const Grid& grid, const Wire& wire, const QColor& color)
 {
     const double width = grid.width(wire.width);
     QPolygonF points = grid.onStroke(wire.points, width);
@@ -126,19 +155,14 @@ void drawWire(QPainter& painter, const Grid& grid, const Wire& wire)
     const QPointF way = unit(tip - points[points.size() - 2]);
     if (wire.ends == Ends::Arrow)
         points.last() -= way * (arrowOf(wire).width() - 1) * grid.scale();
-    painter.strokePath(pathOf(wire, grid, points), pen(width));
+    painter.strokePath(pathOf(wire, grid, points), pen(width, color));
     if (wire.ends == Ends::Idle) {
         const QPointF bar(0, idleBarHalf * grid.scale());
-        painter.setPen(pen(width));
+        painter.setPen(pen(width, color));
         painter.drawLine(points.first() - bar, points.first() + bar);
     }
     if (wire.ends == Ends::Arrow)
-        drawArrow(painter, grid, wire, tip, way);
-    if (wire.dot == 0)
-        return;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ink);
-    painter.drawEllipse(points.first(), wire.dot * grid.scale(), wire.dot * grid.scale());
+        drawArrow(painter, grid, wire, tip, way, color);
 }
 
 /// How a shape looks: its frame, its ground, the radius of its corners.
@@ -149,8 +173,13 @@ struct Look
     double radius = 0;
 };
 
-Look lookOf(Shape shape)
+Look lookOf(Shape shape, Use use)
 {
+    if (use == Use::Idle && shape != Shape::Frame) {
+        Look look = lookOf(shape, Use::InUse);
+        look.frame = idleInk;
+        return look;
+    }
     switch (shape) {
     case Shape::Frame:
         return {regionInk, Qt::transparent, frameRadius};
@@ -181,9 +210,9 @@ void drawText(QPainter& painter, const Grid& grid, const QRectF& rect, const QSt
     painter.restore();
 }
 
-void drawFigure(QPainter& painter, const Grid& grid, const Figure& figure)
+void drawFigure(QPainter& painter, const Grid& grid, const Figure& figure, Use use)
 {
-    const Look look = lookOf(figure.shape);
+    const Look look = lookOf(figure.shape, use);
     const double stroke = grid.width(1);
     painter.setPen(pen(stroke, look.frame));
     painter.setBrush(look.ground);
@@ -201,7 +230,7 @@ void drawFigure(QPainter& painter, const Grid& grid, const Figure& figure)
     if (figure.shape == Shape::Pad)
         for (const QPolygonF& line : figure.lines)
             painter.drawPolyline(grid.onStroke(line, stroke));
-    painter.setPen(ink);
+    painter.setPen(use == Use::Idle ? idleText : ink);
     drawText(painter, grid, figure.outline.boundingRect(), figure.text, captionFont());
 }
 
@@ -215,6 +244,82 @@ void drawCaption(QPainter& painter, const Grid& grid, const Caption& caption)
     drawText(painter, grid, caption.rect, caption.text, captionFont(caption.style));
 }
 
+/// One drawing of a picture.
+class Sheet
+{
+public:
+    Sheet(QPainter& painter, const Picture& picture, const QRectF& seen, const State& state)
+        : m_painter(painter), m_picture(picture), m_state(state),
+          m_room(seen.adjusted(-overhang, -overhang, overhang, overhang)),
+          m_grid(painter.worldTransform() * QTransform::fromScale(painter.device()->devicePixelRatioF(),
+                                                                  painter.device()->devicePixelRatioF()))
+    {
+    }
+
+    void draw() const
+    {
+        drawMarks();
+        drawFigures(m_picture.below, m_state.uses.below);
+        // What is in use lies on what is not.
+        for (Use use : {Use::Idle, Use::InUse, Use::Red})
+            drawWires(use);
+        drawFigures(m_picture.above, m_state.uses.above);
+        for (const Caption& caption : m_picture.captions)
+            if (isSeen(caption.rect))
+                drawCaption(m_painter, m_grid, caption);
+    }
+
+private:
+    bool isSeen(const QRectF& rect) const
+    {
+        return rect.left() <= m_room.right() && rect.right() >= m_room.left() &&
+               rect.top() <= m_room.bottom() && rect.bottom() >= m_room.top();
+    }
+
+    Use useOf(int wire) const { return m_state.uses.wires.value(wire, Use::InUse); }
+
+    /// Dots belong to the wire on which they lie.
+    void drawWires(Use use) const
+    {
+        for (int i = 0; i < m_picture.wires.size(); ++i) {
+            const Wire& wire = m_picture.wires[i];
+            if (!isSeen(wire.points.boundingRect()))
+                continue;
+            if (useOf(i) == use)
+                drawWire(m_painter, m_grid, wire, colorOf(use));
+            if (wire.dot > 0 && useOf(wire.before) == use)
+                drawDot(m_painter, m_grid, wire, colorOf(use));
+        }
+    }
+
+    void drawFigures(const QVector<Figure>& figures, const QVector<Use>& uses) const
+    {
+        for (int i = 0; i < figures.size(); ++i)
+            if (isSeen(figures[i].outline.boundingRect()))
+                drawFigure(m_painter, m_grid, figures[i], uses.value(i, Use::InUse));
+    }
+
+    void drawMarks() const
+    {
+        const Marks& marks = m_state.marks;
+        const double width = haloWidth * m_grid.scale();
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.setPen(QPen(halo, width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+        for (int wire : marks.wires)
+            m_painter.drawPolyline(m_grid.onStroke(m_picture.wires[wire].points, 1));
+        for (int figure : marks.below)
+            m_painter.drawPolygon(m_grid.onStroke(m_picture.below[figure].outline, 1));
+        for (int figure : marks.above)
+            m_painter.drawPolygon(m_grid.onStroke(m_picture.above[figure].outline, 1));
+    }
+
+    QPainter& m_painter;
+    const Picture& m_picture;
+    const State& m_state;
+    QRectF m_room;
+    Grid m_grid;
+};
+
 } // namespace
 
 QFont captionFont(Style style)
@@ -226,30 +331,14 @@ QFont captionFont(Style style)
     return font;
 }
 
-void draw(QPainter& painter, const Picture& picture, const QRectF& seen)
+void draw(QPainter& painter, const Picture& picture, const QRectF& seen, const State& state)
 {
-    const QRectF room = seen.adjusted(-overhang, -overhang, overhang, overhang);
-    const auto isSeen = [&room](const QRectF& rect) {
-        return rect.left() <= room.right() && rect.right() >= room.left() && rect.top() <= room.bottom() &&
-               rect.bottom() >= room.top();
-    };
     const double pixels = painter.device()->devicePixelRatioF();
-    const Grid grid(painter.worldTransform() * QTransform::fromScale(pixels, pixels));
+    const Sheet sheet(painter, picture, seen, state);
     painter.save();
     painter.setWorldTransform(QTransform::fromScale(1 / pixels, 1 / pixels));
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const Figure& figure : picture.below)
-        if (isSeen(figure.outline.boundingRect()))
-            drawFigure(painter, grid, figure);
-    for (const Wire& wire : picture.wires)
-        if (isSeen(wire.points.boundingRect()))
-            drawWire(painter, grid, wire);
-    for (const Figure& figure : picture.above)
-        if (isSeen(figure.outline.boundingRect()))
-            drawFigure(painter, grid, figure);
-    for (const Caption& caption : picture.captions)
-        if (isSeen(caption.rect))
-            drawCaption(painter, grid, caption);
+    sheet.draw();
     painter.restore();
 }
 

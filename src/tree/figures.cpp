@@ -8,7 +8,7 @@ namespace tree {
 namespace {
 
 /// The last byte is the version of the format.
-constexpr quint32 mark = 0x7a6e7401;
+constexpr quint32 mark = 0x7a6e7402;
 } // namespace
 
 static QDataStream& operator<<(QDataStream& stream, const Hop& hop)
@@ -21,28 +21,38 @@ static QDataStream& operator>>(QDataStream& stream, Hop& hop)
     return stream >> hop.segment >> hop.x >> hop.radius;
 }
 
+static QDataStream& operator<<(QDataStream& stream, const Net& net)
+{
+    return stream << net.source;
+}
+
+static QDataStream& operator>>(QDataStream& stream, Net& net)
+{
+    return stream >> net.source;
+}
+
 static QDataStream& operator<<(QDataStream& stream, const Wire& wire)
 {
-    return stream << wire.net << wire.from << wire.to << wire.points << wire.hops << wire.width << wire.dot
-                  << wire.ends;
+    return stream << wire.net << wire.before << wire.to << wire.points << wire.hops << wire.width << wire.dot
+                  << wire.ends << wire.behind;
 }
 
 static QDataStream& operator>>(QDataStream& stream, Wire& wire)
 {
-    return stream >> wire.net >> wire.from >> wire.to >> wire.points >> wire.hops >> wire.width >> wire.dot >>
-           wire.ends;
+    return stream >> wire.net >> wire.before >> wire.to >> wire.points >> wire.hops >> wire.width >>
+           wire.dot >> wire.ends >> wire.behind;
 }
 
 static QDataStream& operator<<(QDataStream& stream, const Figure& figure)
 {
     return stream << figure.shape << figure.name << figure.outline << figure.open << figure.lines
-                  << figure.text;
+                  << figure.text << figure.inputs << figure.net;
 }
 
 static QDataStream& operator>>(QDataStream& stream, Figure& figure)
 {
     return stream >> figure.shape >> figure.name >> figure.outline >> figure.open >> figure.lines >>
-           figure.text;
+           figure.text >> figure.inputs >> figure.net;
 }
 
 static QDataStream& operator<<(QDataStream& stream, const Caption& caption)
@@ -58,7 +68,7 @@ static QDataStream& operator>>(QDataStream& stream, Caption& caption)
 QDataStream& operator<<(QDataStream& stream, const Picture& picture)
 {
     stream.setVersion(QDataStream::Qt_5_15);
-    return stream << mark << picture.size << picture.below << picture.wires << picture.above
+    return stream << mark << picture.size << picture.nets << picture.below << picture.wires << picture.above
                   << picture.captions;
 }
 
@@ -69,7 +79,7 @@ QDataStream& operator>>(QDataStream& stream, Picture& picture)
     Picture read;
     stream >> found;
     if (found == mark)
-        stream >> read.size >> read.below >> read.wires >> read.above >> read.captions;
+        stream >> read.size >> read.nets >> read.below >> read.wires >> read.above >> read.captions;
     else
         stream.setStatus(QDataStream::ReadCorruptData);
     picture = stream.status() == QDataStream::Ok ? read : Picture();

@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 class QDataStream;
@@ -30,17 +31,25 @@ enum class Ends : quint8
     Idle   ///< a bar at its start: nothing feeds the input
 };
 
-/// A wire along its signal.
+/// A piece of a wire along its signal, from one joint to the next.
 struct Wire
 {
-    QString net;  ///< the name of its signal; empty for one without
-    QString from; ///< the control or figure that it leaves; empty on a branch
-    QString to;   ///< the control or figure that it reaches; empty where it ends free
+    int net = 0;     ///< its signal, of the picture's nets
+    int before = -1; ///< the piece, further up, that it goes on from or branches off; -1 at the net's source
+    QString to;      ///< the control or figure that it reaches; empty where it goes on or ends free
     QPolygonF points;
     QVector<Hop> hops;
     double width = 1; ///< an odd number
     double dot = 0;   ///< radius of the dot at its start; 0 for none
     Ends ends = Ends::Arrow;
+    /// Fields that stand before the wire, in one mode of the PLL or in both, and take the signal up in passing.
+    QStringList behind;
+};
+
+/// One signal, by the control or figure that gives it.
+struct Net
+{
+    QString source;
 };
 
 enum class Shape : quint8
@@ -63,6 +72,8 @@ struct Figure
     bool open = false;
     QVector<QPolygonF> lines; ///< of a crystal's leads and plates, of a pad's cross
     QString text;             ///< in the middle of the outline
+    QStringList inputs;       ///< the radio buttons of a multiplexer; the oscillator of a crystal
+    int net = -1;             ///< the signal of a bus bar
 };
 
 enum class Style : quint8
@@ -85,6 +96,7 @@ struct Caption
 struct Picture
 {
     QSize size;
+    QVector<Net> nets;
     QVector<Figure> below;
     QVector<Wire> wires;
     QVector<Figure> above;

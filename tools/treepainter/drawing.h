@@ -78,6 +78,7 @@ QRectF lineOf(const Tag& tag);
 struct Crystal
 {
     SourceLine source;
+    QString oscillator; ///< its edit
     QRectF room; ///< of leads and symbol together
     QPointF middle;
     std::vector<QPolygonF> leads;
@@ -116,6 +117,13 @@ struct Wire
     QStringList behind = {}; ///< fields that may cover a piece of the wire
 };
 
+/// Of a bus, in place of the wires of that width.
+struct Bar
+{
+    QRectF rect;
+    int net;
+};
+
 /// A pair that may break a rule of the checks: two controls, or a wire or control and what it breaks.
 struct Allowance
 {
@@ -141,7 +149,7 @@ struct Drawing
     std::vector<Crystal> crystals;
     std::vector<Caption> captions;
     std::vector<Wire> wires;
-    std::vector<QRectF> bars; ///< of the buses, in place of the wires of that width
+    std::vector<Bar> bars;
     std::vector<Allowance> allowances;
     QHash<QString, QSizeF> rooms; ///< of labels that show something wider later
 

@@ -232,7 +232,7 @@ void TreeBuilder::addCrystal(const Statement& statement)
     const double top = onPixel(oscillator.top() + leadInset);
     const double bottom = onPixel(oscillator.bottom() - leadInset) - 1;
     const double left = std::max(in.right(), out.right()) + leadBehindPin;
-    Crystal crystal{statement.source, {}, {}, {}};
+    Crystal crystal{statement.source, statement.words[0].text, {}, {}, {}};
     crystal.leads = {lead(in, top, oscillator.left()), lead(out, bottom, oscillator.left())};
     crystal.middle = {onPixel((left + oscillator.left()) / 2), (top + bottom) / 2};
     crystal.room = QRectF(QPointF(left, top), QPointF(oscillator.left(), bottom));

@@ -1,6 +1,7 @@
 #include "picture.h"
 
 #include "checks.h"
+#include "pieces.h"
 #include "tree/drawing.h"
 
 #include <QHash>
@@ -56,10 +57,11 @@ tree::Ends endsOf(WireEnd end)
     return tree::Ends::Plain;
 }
 
-tree::Wire wireOf(const Wire& wire, const Drawing& drawing)
+tree::Wire wireOf(const Piece& piece, const Drawing& drawing)
 {
-    return {wire.name,  wire.from, wire.to,         wire.points, hopsOf(wire, drawing),
-            wire.width, wire.dot,  endsOf(wire.end)};
+    const Wire& wire = piece.wire;
+    return {piece.net,  piece.before, wire.to,          wire.points, hopsOf(wire, drawing),
+            wire.width, wire.dot,     endsOf(wire.end), wire.behind};
 }
 
 /// Four corners without the first again at the end.
@@ -71,18 +73,30 @@ QPolygonF corners(const QRectF& rect)
 tree::Figure figure(tree::Shape shape, const QString& name, const QPolygonF& outline,
                     const QString& text = {})
 {
-    return {shape, name, outline, false, {}, text};
+    return {shape, name, outline, false, {}, text, {}, -1};
+}
+
+tree::Figure muxOf(const Mux& mux)
+{
+    tree::Figure shape = figure(tree::Shape::Mux, mux.name, mux.outline);
+    shape.inputs = mux.radios;
+    return shape;
+}
+
+/// pieces: for the number of the bar's net.
+tree::Figure barOf(const Bar& bar, const Pieces& pieces)
+{
+    tree::Figure shape = figure(tree::Shape::Bar, {}, corners(bar.rect.adjusted(0.5, 0.5, -0.5, -0.5)));
+    shape.net = pieces.nets.indexOf(bar.net);
+    return shape;
 }
 
 tree::Figure crystalOf(const Crystal& crystal)
 {
     const QPointF corner(crystalBodyHalfWidth, crystalBodyHalfHeight);
-    tree::Figure figure{tree::Shape::Crystal,
-                        {},
-                        corners(QRectF(crystal.middle - corner, crystal.middle + corner)),
-                        false,
-                        {},
-                        {}};
+    tree::Figure figure =
+        ::figure(tree::Shape::Crystal, {}, corners(QRectF(crystal.middle - corner, crystal.middle + corner)));
+    figure.inputs = QStringList(crystal.oscillator);
     for (const QPolygonF& lead : crystal.leads) {
         const double level = lead.last().y();
         const double side = level < crystal.middle.y() ? -1 : 1;
@@ -121,7 +135,9 @@ tree::Figure flagOf(const Tag& tag)
     else
         outline << rect.topLeft() << rect.topRight() - QPointF(tagTip, 0) << QPointF(rect.right(), tag.level)
                 << rect.bottomRight() - QPointF(tagTip, 0) << rect.bottomLeft();
-    return {tree::Shape::Flag, tag.name + tag.label, outline, tag.open, {}, tag.text};
+    tree::Figure flag = figure(tree::Shape::Flag, tag.name + tag.label, outline, tag.text);
+    flag.open = tag.open;
+    return flag;
 }
 
 /// The colours of the image, the most frequent first.
@@ -184,14 +200,16 @@ tree::Picture pictureOf(const Drawing& drawing, const QSize& size)
         picture.below.push_back(
             figure(tree::Shape::Frame, {}, corners(frame.rect.adjusted(0.5, 0.5, -0.5, -0.5))));
     for (const Mux& mux : drawing.muxes)
-        picture.below.push_back(figure(tree::Shape::Mux, mux.name, mux.outline));
+        picture.below.push_back(muxOf(mux));
     for (const Crystal& crystal : drawing.crystals)
         picture.below.push_back(crystalOf(crystal));
-    for (const Wire& wire : drawing.wires)
-        if (wire.width != weight::bar)
-            picture.wires.push_back(wireOf(wire, drawing));
-    for (const QRectF& bar : drawing.bars)
-        picture.above.push_back(figure(tree::Shape::Bar, {}, corners(bar.adjusted(0.5, 0.5, -0.5, -0.5))));
+    const Pieces pieces = piecesOf(drawing);
+    for (const QString& source : pieces.sources)
+        picture.nets.push_back({source});
+    for (const Piece& piece : pieces.pieces)
+        picture.wires.push_back(wireOf(piece, drawing));
+    for (const Bar& bar : drawing.bars)
+        picture.above.push_back(barOf(bar, pieces));
     for (const Box& box : drawing.boxes)
         picture.above.push_back(figure(tree::Shape::Box, box.name, corners(box.rect), box.text));
     for (const Pad& pad : drawing.pads)

@@ -125,8 +125,11 @@ void TreeBuilder::addBar(const Statement& statement, const Wire& trunk, const QV
     const Anchor start{joint, std::nullopt, 0, 0, {}, trunk.net};
     const QString name = trunk.name;
     const double half = weight::bar / 2;
-    m_drawing.bars.emplace_back(QPointF(joint.x() - half, std::floor(*top - barOverhang)),
-                                QPointF(joint.x() + half, std::floor(*bottom + barOverhang)));
+    m_drawing.bars.push_back({
+        QRectF{QPointF(joint.x() - half, std::floor(*top - barOverhang)),
+               QPointF(joint.x() + half, std::floor(*bottom + barOverhang))},
+        trunk.net
+    });
     for (const double end : {*top - barOverhang, *bottom + barOverhang}) {
         Wire& bar =
             append(statement, name, QVector<QPointF>{joint, QPointF(joint.x(), end)}, start, std::nullopt);

@@ -13,6 +13,7 @@ void AdcBlock::New_totadc()
     m_toadc_Label = label(QStringLiteral("m_toadc_Label"));
     m_toadc_lineEdit = outputEdit(QStringLiteral("m_toadc_lineEdit"));
     m_toadcswitch_ComboBox = combo(QStringLiteral("m_toadcswitch_ComboBox"), switchItems());
+    m_toadcswitch_ComboBox->setOffItem(0);
     addSetting(QStringLiteral("adcswitch"),
                settings::whole(
                    model(), MODEL_FIELD(ToADC_Switch),

@@ -29,6 +29,7 @@ void ClockOutputBlock::New_clockoutpinselect()
     for (const PinChoice& pin : m_output.pins)
         pins << QLatin1String(pin.text);
     m_pin = combo(m_output.member("pin_ComboBox"), pins);
+    m_pin->setOffItem(0);
     label(m_output.member("pin_Label"));
     m_pinValue = label(m_output.member("_Value_QLabel"));
     ZN64MCUPLL::SetLabelColor(m_pinValue, Qt::darkGreen);

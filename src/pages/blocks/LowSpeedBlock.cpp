@@ -36,6 +36,7 @@ void LowSpeedBlock::New_towdt()
 void LowSpeedBlock::New_tortc()
 {
     m_tortc_ComboBox = combo(QStringLiteral("m_tortc_ComboBox"), switchItems());
+    m_tortc_ComboBox->setOffItem(0);
     m_tortc_lineEdit = outputEdit(QStringLiteral("m_tortc_lineEdit"));
     m_tortc_lineEdit->setText(m_lick_lineEdit->text());
     m_tortc_Label = label(QStringLiteral("m_tortc_Label"));

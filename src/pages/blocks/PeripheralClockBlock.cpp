@@ -21,6 +21,7 @@ void PeripheralClockBlock::New_clocksel()
         m_choices.push_back({source.number, m_radios.back()});
     }
     m_switch = combo(m_clock.switchBox(), switchItems());
+    m_switch->setOffItem(0);
     m_result = outputEdit(m_clock.result());
     m_unit = label(m_clock.unit());
     addSetting(m_clock.sourceSetting(), sourceSetting());

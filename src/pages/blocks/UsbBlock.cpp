@@ -18,6 +18,7 @@ void UsbBlock::New_tousb()
     // The one switch with "enable" first: its index is the model's number, in which zero is on.
     m_tousbswitch_ComboBox = combo(QStringLiteral("m_tousbswitch_ComboBox"),
                                    {QStringLiteral("enable"), QStringLiteral("disable")});
+    m_tousbswitch_ComboBox->setOffItem(1);
     m_usbclock_Label = label(QStringLiteral("m_usbclock_Label"));
     addSetting(QStringLiteral("tousbswitch"),
                settings::whole(
