@@ -8,14 +8,15 @@
 class QWidget;
 
 /// The background of a page. To the scene it is the picture of the clock tree, at its size; what it paints
-/// are the figures of that picture, sharp at every zoom and on every screen, and in the state of the controls at
-/// that moment. Without figures it paints the picture.
+/// are the figures of that picture, sharp at every zoom and on every screen, and in the state of the controls
+/// at that moment. Without figures it paints the picture.
 class TreeItem : public QGraphicsPixmapItem
 {
 public:
     TreeItem(const QPixmap& picture, tree::Picture figures);
 
-    /// From now on the picture is in the state of these controls, by their object names. They must outlive it.
+    /// From now on the picture is in the state of these controls, by their object names. They must outlive
+    /// it.
     void follow(const QList<QWidget*>& controls);
 
     /// The figures as they are at present: in each mode of the PLL other fields stand before its wires.

@@ -42,8 +42,8 @@ struct Cover
 /// them becomes the chain of signals that they make of it.
 Picture cutAt(const Picture& picture, const QVector<Cover>& covers);
 
-/// How the signals of a picture hang together: which of them a control or figure takes and gives, and so what is
-/// in use, and where a signal comes from. It knows no rule of a chip; all of it follows from the states of
+/// How the signals of a picture hang together: which of them a control or figure takes and gives, and so what
+/// is in use, and where a signal comes from. It knows no rule of a chip; all of it follows from the states of
 /// the controls.
 class Circuit
 {
@@ -61,8 +61,8 @@ public:
     QString sourceOf(int net) const { return m_elements[m_sources[net]].name; }
     /// The signal that the control or figure gives, or else the one that it takes; -1 for none.
     int netAt(const QString& element) const;
-    /// The signal that reaches the control or figure at present: through a multiplexer that of the radio button
-    /// that is checked. -1 for none.
+    /// The signal that reaches the control or figure at present: through a multiplexer that of the radio
+    /// button that is checked. -1 for none.
     int netInto(const QString& element, const QVector<ControlState>& states) const;
     /// Whether any piece or flag of the signal is in use.
     bool inUse(int net, const QVector<ControlState>& states) const;

@@ -42,7 +42,8 @@ struct Wire
     double width = 1; ///< an odd number
     double dot = 0;   ///< radius of the dot at its start; 0 for none
     Ends ends = Ends::Arrow;
-    /// Fields that stand before the wire, in one mode of the PLL or in both, and take the signal up in passing.
+    /// Fields that stand before the wire, in one mode of the PLL or in both, and take the signal up in
+    /// passing.
     QStringList behind;
 };
 

@@ -79,7 +79,7 @@ struct Crystal
 {
     SourceLine source;
     QString oscillator; ///< its edit
-    QRectF room; ///< of leads and symbol together
+    QRectF room;        ///< of leads and symbol together
     QPointF middle;
     std::vector<QPolygonF> leads;
 };

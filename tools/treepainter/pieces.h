@@ -17,6 +17,6 @@ struct Pieces
     QStringList sources;
 };
 
-/// The wires of the drawing, cut where others branch off. Those along a bus bar are left out: what branches off
-/// the bar goes on from the wire that reaches it.
+/// The wires of the drawing, cut where others branch off. Those along a bus bar are left out: what branches
+/// off the bar goes on from the wire that reaches it.
 Pieces piecesOf(const Drawing& drawing);
