@@ -1,5 +1,6 @@
 #include "pages/ClockTreePage.h"
 
+#include "canvas/treepointer.h"
 #include "model/seriestraits.h"
 #include "pages/blocks/FlexiblePllBlock.h"
 #include "pages/blocks/LowSpeedBlock.h"
@@ -34,6 +35,7 @@ void ClockTreePage::build()
             .arg(seriesName(model().series())));
     InitAllControl();
     ControlsConnectSlots();
+    m_pointer = std::make_unique<TreePointer>(*view(), treeItem(), *this);
 }
 
 void ClockTreePage::InitAllControl()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/ZN64MCUPLL.h"
+#include "canvas/treeguide.h"
 #include "pages/blocks/ClockTree.h"
 #include "pages/description/settingrows.h"
 
@@ -20,12 +21,13 @@ class FlexiblePllBlock;
 class PllOutputBlock;
 class PllSourceBlock;
 class SystemClockBlock;
+class TreePointer;
 class UsbBlock;
 class UsbPhyBlock;
 
 /// A series page: blocks put together by a description. The class of a series calls build() in its
 /// constructor, when texts already translate in its own context.
-class ClockTreePage : public ZN64MCUPLL, public ClockTree
+class ClockTreePage : public ZN64MCUPLL, public ClockTree, public TreeGuide
 {
     Q_OBJECT
 
@@ -56,6 +58,12 @@ public:
     /// The settings of a design file, as they stand in it and as they are read.
     const QStringList& fileOrder() const { return m_fileOrder; }
     const QStringList& readingOrder() const { return m_readingOrder; }
+
+    // What is told of the tree to those who point at it.
+
+    QVector<int> sameSignal(int net) const override;
+    QStringList tellSignal(int net) const override;
+    QStringList tellControl(const QWidget* control) const override;
 
 protected:
     ClockTreePage(const PageDescription& description, QWidget* parent);
@@ -155,6 +163,9 @@ private:
     bool prepareFolders(const QString& incPath, const QString& srcPath) const;
     void showGenerated(const QString& folder) const;
 
+    /// The signal that a control shows or gives; -1 for none.
+    int netOf(const QWidget* control) const;
+
     const PageDescription& m_description;
     std::vector<std::unique_ptr<ClockBlock>> m_blocks;
     QHash<QString, std::function<void()>> m_routines;
@@ -165,6 +176,7 @@ private:
     QSet<QString> m_takenPlaces;
     QVector<QWidget*> m_made; ///< what a person can use of the controls that the running routine has made
     bool m_takingDesign = false;
+    std::unique_ptr<TreePointer> m_pointer;
 
     LowSpeedBlock* m_lowSpeed = nullptr;
     HighSpeedBlock* m_highSpeed = nullptr;

@@ -7,17 +7,12 @@
 #include "pages/blocks/PllSourceBlock.h"
 #include "pages/blocks/SystemClockBlock.h"
 #include "pages/blocks/UsbBlock.h"
+#include "pages/description/arithmetic.h"
 #include "widgets/messages.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
-
-namespace {
-// What hick gives to outputs, MHz: undivided, and behind its divider by 6.
-constexpr double hickMHz = 48.0;
-constexpr double dividedHickMHz = 8.0;
-} // namespace
 
 // What the blocks ask of each other through the page, and the typed values that several of them take over.
 
@@ -101,19 +96,10 @@ bool ClockTreePage::hextInUse() const
 
 double ClockTreePage::hickAtOutputs() const
 {
-    const auto by = [](bool undivided) { return undivided ? hickMHz : dividedHickMHz; };
-    switch (m_description.hickAtOutputs) {
-    case HickAtOutputs::Always8:
-        return dividedHickMHz;
-    case HickAtOutputs::Always48:
-        return hickMHz;
-    case HickAtOutputs::With48ForUsb:
-        return by(usbFromHick());
-    case HickAtOutputs::ByRoute:
-        return by(usbFromHick() || (sclkFromHick() && m_hickRoute && m_hickRoute->undivided()) ||
-                  (sclkFromPll() && !hextFeedsPll()));
-    }
-    return hickMHz;
+    const arithmetic::HickRoutes routes{usbFromHick(),
+                                        sclkFromHick() && m_hickRoute && m_hickRoute->undivided(),
+                                        sclkFromPll() && !hextFeedsPll()};
+    return arithmetic::hickAtOutputs(m_description.hickAtOutputs, routes);
 }
 
 double ClockTreePage::typedHext() const

@@ -41,6 +41,12 @@ void AdcBlock::UpdateResultControls()
     appearance::setText(m_toadc_lineEdit, frequencyText(model().Get_ADCCLK_Value()));
 }
 
+std::optional<Remarks> AdcBlock::remarksOn(const QWidget* control) const
+{
+    return control == m_toadc_lineEdit ? std::make_optional(ClockBlock::remarksOn(ClockSource::Adc))
+                                       : std::nullopt;
+}
+
 void AdcBlock::paintOutput()
 {
     const Qt::GlobalColor used = outOfRange(ClockSource::Adc) ? Qt::red : Qt::darkGreen;

@@ -13,6 +13,7 @@ public:
     void ControlsConnectSlots() override;
     void UI_Display() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
 
     bool on() const { return m_toadcswitch_ComboBox->currentIndex() != 0; }
 

@@ -16,6 +16,15 @@ bool ClockBlock::outOfRange(ClockSource clock) const
     return limits::breaksAny(description().painted, clock, clockValue(clock, model()), tree().normalMode());
 }
 
+Remarks ClockBlock::remarksOn(ClockSource clock) const
+{
+    Remarks remarks{clockValue(clock, model())};
+    for (const Limit& limit : description().painted)
+        if (limit.clock == clock)
+            remarks.limits.push_back(limit);
+    return remarks;
+}
+
 QLabel* ClockBlock::label(const QString& name) const
 {
     return m_tree.placeLabel(name);

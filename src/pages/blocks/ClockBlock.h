@@ -1,10 +1,12 @@
 #pragma once
 
 #include "pages/blocks/ClockTree.h"
+#include "pages/blocks/remarks.h"
 
 #include <QButtonGroup>
 #include <QObject>
 
+#include <optional>
 #include <vector>
 
 /// One subject of the clock tree: its controls, its rules of what is grey, its slots, its results and its
@@ -27,6 +29,8 @@ public:
     virtual bool usesHext() const { return false; }
     /// Whether the block needs the PLL's divider for USB, though USB may be off.
     virtual bool usesPllU() const { return false; }
+    /// What is to be told of a field of the block; nothing of a control that is none.
+    virtual std::optional<Remarks> remarksOn(const QWidget*) const { return {}; }
     /// Shows or hides what belongs to one mode of the PLL, on a series that has both.
     virtual void ShowPllMode(bool) {}
     /// Shows what a search for PLL parameters found, by the PLL's mode.
@@ -40,6 +44,8 @@ protected:
 
     /// Whether the clock breaks a limit that is painted red.
     bool outOfRange(ClockSource clock) const;
+    /// What is to be told of a field that shows the clock.
+    Remarks remarksOn(ClockSource clock) const;
 
     // Controls at their places, with their member names as object names.
 

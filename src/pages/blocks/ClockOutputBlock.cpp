@@ -2,6 +2,7 @@
 
 #include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
+#include "pages/description/arithmetic.h"
 
 #include <algorithm>
 
@@ -155,7 +156,10 @@ void ClockOutputBlock::UpdateResultControls()
         checked ? reading(checked->source.source) : std::optional<ClockReading>();
     if (checked && checked->value)
         appearance::setText(checked->value, clock ? bracketed(clock->value, clock->unit) : QString());
-    appearance::setText(m_pinValue, clock ? bracketed(divided(clock->value), clock->unit) : QString());
+    appearance::setText(
+        m_pinValue,
+        clock ? bracketed(arithmetic::divided(clock->value, m_output.dividers, model()), clock->unit)
+              : QString());
 }
 
 std::optional<ClockReading> ClockOutputBlock::reading(ClockSource source) const
@@ -163,13 +167,6 @@ std::optional<ClockReading> ClockOutputBlock::reading(ClockSource source) const
     if (source == ClockSource::Lext && m_output.lextNeedsRtc && !(tree().rtcOn() && tree().rtcFromLext()))
         return {};
     return frequencyOf(source, model(), tree().hickAtOutputs());
-}
-
-double ClockOutputBlock::divided(double frequency) const
-{
-    for (const Divider& divider : m_output.dividers)
-        frequency /= divider.field.get(model());
-    return frequency;
 }
 
 void ClockOutputBlock::clkout_RadioButton_checkSlot(bool on)

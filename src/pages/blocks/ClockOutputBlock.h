@@ -39,7 +39,6 @@ private:
     bool isOff(const ClockOutputRow& source) const;
     void fallBackFromOffSource();
     std::optional<ClockReading> reading(ClockSource source) const;
-    double divided(double frequency) const;
 
     const ClockOutput& m_output;
     CustomComboBox1* m_pin = nullptr;

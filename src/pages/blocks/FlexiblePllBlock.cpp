@@ -244,10 +244,28 @@ void FlexiblePllBlock::paintTyped(const Parameter& parameter)
         parameter.edit->setText(parameter.sign + text);
         return;
     }
-    const int typed = parameter.typed();
-    const bool committed = typed == static_cast<int>(parameter.field.get(model()));
-    appearance::setSheet(parameter.edit, committed ? styles::committedPllEdit() : styles::pendingPllEdit());
-    ZN64MCUPLL::SetLineEditColor(parameter.edit, parameter.inRange(typed) ? Qt::black : Qt::red);
+    appearance::setSheet(parameter.edit,
+                         committed(parameter) ? styles::committedPllEdit() : styles::pendingPllEdit());
+    ZN64MCUPLL::SetLineEditColor(parameter.edit, parameter.inRange(parameter.typed()) ? Qt::black : Qt::red);
+}
+
+std::optional<Remarks> FlexiblePllBlock::remarksOn(const QWidget* control) const
+{
+    for (const Parameter* each : {&m_ms, &m_ns})
+        if (each->edit == control) {
+            Remarks remarks;
+            remarks.lowest = each->lowest;
+            remarks.highest = each->highest;
+            remarks.unit = "";
+            remarks.waits = !committed(*each);
+            return remarks;
+        }
+    return {};
+}
+
+bool FlexiblePllBlock::committed(const Parameter& parameter) const
+{
+    return parameter.typed() == static_cast<int>(parameter.field.get(model()));
 }
 
 void FlexiblePllBlock::pllms_LineEdit_returnPressed()

@@ -13,6 +13,7 @@ public:
     void ControlsConnectSlots() override;
     void UI_Display() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
 
     /// Shows the parameters that a solver found.
     void Update_Flexible_Controls() override;
@@ -55,6 +56,8 @@ private:
     void Set_pllCFG_Hidden(bool hidden);
     void commit(const Parameter& parameter);
     void paintTyped(const Parameter& parameter);
+    /// Whether the typed value is the design's.
+    bool committed(const Parameter& parameter) const;
     /// Puts a good value into the model, and the field shows it as committed.
     void takeOver(const Parameter& parameter, int value);
     /// Takes the look of a pending value from a field whose value the model now has.

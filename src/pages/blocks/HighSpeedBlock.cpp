@@ -122,13 +122,27 @@ void HighSpeedBlock::hext_LineEdit_returnPressed()
     appearance::setSheet(m_hext_lineEdit, styles::committed());
 }
 
+bool HighSpeedBlock::committed() const
+{
+    return QString::number(typed(), 'f', 5) == QString::number(model().Get_Hext_Input_Value(), 'f', 5);
+}
+
 void HighSpeedBlock::hext_LineEdit_textChanged(const QString& text)
 {
-    const double hext = text.toDouble();
-    const bool committed =
-        QString::number(hext, 'f', 5) == QString::number(model().Get_Hext_Input_Value(), 'f', 5);
-    appearance::setSheet(m_hext_lineEdit, committed ? styles::committed() : styles::pending());
-    ZN64MCUPLL::SetLineEditColor(m_hext_lineEdit, inputlimits::hextInRange(hext) ? Qt::black : Qt::red);
+    appearance::setSheet(m_hext_lineEdit, committed() ? styles::committed() : styles::pending());
+    ZN64MCUPLL::SetLineEditColor(m_hext_lineEdit,
+                                 inputlimits::hextInRange(text.toDouble()) ? Qt::black : Qt::red);
+}
+
+std::optional<Remarks> HighSpeedBlock::remarksOn(const QWidget* control) const
+{
+    if (control != m_hext_lineEdit)
+        return {};
+    Remarks remarks;
+    remarks.lowest = inputlimits::hextMin;
+    remarks.highest = inputlimits::hextMax;
+    remarks.waits = !committed();
+    return remarks;
 }
 
 void HighSpeedBlock::hextbypass_ComboBox_currentIndexChanged(int index)

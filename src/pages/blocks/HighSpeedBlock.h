@@ -12,6 +12,7 @@ public:
 
     void ControlsConnectSlots() override;
     void UI_Display() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
 
     /// Parses the typed hext. Out of 4 to 25 MHz: value 0 and false after the error box. While a design file
     /// is read every number passes.
@@ -34,6 +35,8 @@ private:
     void New_hick();
     Setting hextSetting();
     void Show_hext(bool on);
+    /// Whether the typed hext is the design's.
+    bool committed() const;
 
     QLabel* m_hext_Label1 = nullptr;
     QLineEdit* m_hext_lineEdit = nullptr;

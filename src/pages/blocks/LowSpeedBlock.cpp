@@ -3,6 +3,7 @@
 #include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
 #include "pages/blocks/styles.h"
+#include "pages/description/arithmetic.h"
 
 namespace {
 const QString off = QStringLiteral("0");
@@ -133,9 +134,9 @@ void LowSpeedBlock::UpdateRTCParam()
     } else if (hextSelected()) {
         double hext = 0.0;
         const bool valid = tree().Hext_Value_Valid(hext);
-        const double divisor =
-            description().rtcDivider() ? model().Get_RTC_DIV() : description().rtcHextDivisor;
-        appearance::setText(m_tortc_lineEdit, valid ? frequencyText(hext * 1000.0 / divisor) : off);
+        appearance::setText(m_tortc_lineEdit,
+                            valid ? frequencyText(arithmetic::rtcFromHext(description(), model(), hext))
+                                  : off);
     } else {
         appearance::setText(m_tortc_lineEdit, m_lick_lineEdit->text());
     }

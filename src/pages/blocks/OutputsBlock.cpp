@@ -2,6 +2,7 @@
 
 #include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
+#include "pages/description/arithmetic.h"
 
 OutputsBlock::OutputsBlock(ClockTree& tree) : ClockBlock(tree)
 {
@@ -37,8 +38,16 @@ void OutputsBlock::UpdateResultControls()
     for (const Output& output : m_outputs) {
         const ClockSource clock = output.entry.source;
         ZN64MCUPLL::SetLineEditColor(output.edit, outOfRange(clock) ? Qt::red : Qt::darkGreen);
-        appearance::setText(output.edit, frequencyText(clockValue(clock, model()) / output.entry.divisor));
+        appearance::setText(output.edit, frequencyText(arithmetic::outputClock(output.entry, model())));
     }
+}
+
+std::optional<Remarks> OutputsBlock::remarksOn(const QWidget* control) const
+{
+    for (const Output& output : m_outputs)
+        if (output.edit == control)
+            return ClockBlock::remarksOn(output.entry.source);
+    return {};
 }
 
 void OutputsBlock::showList(const List& list, bool open)

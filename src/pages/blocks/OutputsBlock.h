@@ -13,6 +13,7 @@ public:
 
     void ControlsConnectSlots() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
 
     /// Closes the open list, if any, and moves the focus to its button.
     void closeLists();

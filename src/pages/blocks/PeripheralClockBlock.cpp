@@ -2,6 +2,7 @@
 
 #include "canvas/ZN64MCUPLL.h"
 #include "canvas/appearance.h"
+#include "pages/description/signalnames.h"
 
 #include <algorithm>
 
@@ -106,6 +107,21 @@ void PeripheralClockBlock::UpdateResultControls()
     appearance::setSpoken(
         m_result,
         QStringLiteral("%1 clock, %2").arg(QLatin1String(m_clock.stem), QLatin1String(clock->unit)));
+}
+
+std::optional<Remarks> PeripheralClockBlock::remarksOn(const QWidget* control) const
+{
+    if (control != m_result)
+        return {};
+    const PeripheralSource& source = checkedSource();
+    Remarks remarks;
+    if (source.limited == ClockSource::None)
+        return remarks;
+    remarks.shown = clockValue(source.limited, model());
+    remarks.limits = {limits::above(source.limited, *m_clock.limit)};
+    if (source.limited != source.shown)
+        remarks.decidedBy = signalName(source.limited);
+    return remarks;
 }
 
 void PeripheralClockBlock::clocksel_RadioButton_checkSlot(bool on)

@@ -13,6 +13,7 @@ public:
     void ControlsConnectSlots() override;
     void UI_Display() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
     bool usesPllU() const override;
 
 private slots:

@@ -23,3 +23,9 @@ void PllOutputBlock::UpdateResultControls()
     appearance::setText(m_pllclk_Label, frequencyText(pll) + QLatin1String("MHz"));
     ZN64MCUPLL::SetLabelColor(m_pllclk_Label, outOfRange(ClockSource::Pll) ? Qt::red : Qt::darkGreen);
 }
+
+std::optional<Remarks> PllOutputBlock::remarksOn(const QWidget* control) const
+{
+    return control == m_pllclk_Label ? std::make_optional(ClockBlock::remarksOn(ClockSource::Pll))
+                                     : std::nullopt;
+}

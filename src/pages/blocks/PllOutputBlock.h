@@ -12,6 +12,7 @@ public:
 
     void UI_Display() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
 
     /// The PLL's own limits are checked only while this holds.
     bool shown() const { return m_pllclk_Label->isEnabled(); }

@@ -102,6 +102,26 @@ bool SystemClockBlock::Result_SYSCLK_Valid(double& value)
     return false;
 }
 
+std::optional<Remarks> SystemClockBlock::remarksOn(const QWidget* control) const
+{
+    if (control != m_sclk_lineEdit)
+        return {};
+    Remarks remarks = ClockBlock::remarksOn(ClockSource::Sclk);
+    if (!pllSelected())
+        return remarks;
+    remarks.lowest = description().typedSclk.lowest;
+    remarks.highest = description().typedSclk.highest;
+    remarks.waits = !committed();
+    if (m_solved && m_solved->reached == model().Get_SYSCLKValue())
+        remarks.wanted = m_solved->wanted;
+    return remarks;
+}
+
+bool SystemClockBlock::committed() const
+{
+    return frequencyText(typed()) == frequencyText(model().Get_SYSCLKValue());
+}
+
 void SystemClockBlock::disableEdit()
 {
     m_sclk_lineEdit->setEnabled(false);
@@ -159,6 +179,7 @@ void SystemClockBlock::sclk_LineEdit_returnPressed()
     if (!tree().readHextForPll())
         return;
     model().CalculateParam_From_SYSCLK();
+    m_solved = Solved{sysclk, model().Get_SYSCLKValue()};
     tree().updatePllControls();
     appearance::setSheet(m_sclk_lineEdit, styles::committedSysclk());
     tree().UpdateResultControls();
@@ -166,11 +187,10 @@ void SystemClockBlock::sclk_LineEdit_returnPressed()
 
 void SystemClockBlock::sclk_LineEdit_textChanged(const QString& text)
 {
-    const double typed = text.toDouble();
-    if (frequencyText(typed) != frequencyText(model().Get_SYSCLKValue()))
+    if (!committed())
         appearance::setSheet(m_sclk_lineEdit, styles::pending());
     else
         appearance::setSheet(m_sclk_lineEdit,
                              m_sclk_lineEdit->isEnabled() ? styles::committed() : styles::disabled());
-    ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, inRange(typed) ? Qt::darkGreen : Qt::red);
+    ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, inRange(text.toDouble()) ? Qt::darkGreen : Qt::red);
 }

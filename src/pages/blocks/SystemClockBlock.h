@@ -12,6 +12,7 @@ public:
 
     void ControlsConnectSlots() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
     bool usesHext() const override { return hextSelected(); }
 
     bool hextSelected() const { return m_sclkselect_hext_RadioButton->isChecked(); }
@@ -36,6 +37,15 @@ private:
     void New_sclkselect();
     void New_Result();
     void disableEdit();
+    /// Whether the typed clock is the one that the design has.
+    bool committed() const;
+
+    /// What was typed last, MHz, and what the solver came to.
+    struct Solved
+    {
+        double wanted;
+        double reached;
+    };
 
     QRadioButton* m_sclkselect_hext_RadioButton = nullptr;
     QRadioButton* m_sclkselect_pll_RadioButton = nullptr;
@@ -43,4 +53,5 @@ private:
     std::vector<RadioChoice> m_sclkselectChoices;
     QLineEdit* m_sclk_lineEdit = nullptr;
     std::vector<QLabel*> m_warnings;
+    std::optional<Solved> m_solved;
 };

@@ -67,6 +67,15 @@ void UsbBlock::UpdateResultControls()
     appearance::setText(m_usbclock_Label, frequencyText(usb) + QLatin1String(" MHz"));
 }
 
+std::optional<Remarks> UsbBlock::remarksOn(const QWidget* control) const
+{
+    if (control != m_usbclock_Label)
+        return {};
+    Remarks remarks{model().Get_USBCLKValue(), {limits::usbClock()}};
+    remarks.wanted = usbClockMHz;
+    return remarks;
+}
+
 void UsbBlock::serveNewDemand()
 {
     if (!description().usbMovesBusyPll || !fromPll()) {

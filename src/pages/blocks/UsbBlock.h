@@ -13,6 +13,7 @@ public:
     void ControlsConnectSlots() override;
     void UI_Display() override;
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
     bool usesPll() const override { return fromPll(); }
 
     bool on() const { return m_tousbswitch_ComboBox->currentIndex() == 0; }

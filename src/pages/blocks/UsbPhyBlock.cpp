@@ -20,3 +20,10 @@ void UsbPhyBlock::UpdateResultControls()
     ZN64MCUPLL::SetLineEditColor(m_tousbhsphy_lineEdit, hext == usbPhyClockMHz ? Qt::darkGreen : Qt::red);
     appearance::setText(m_tousbhsphy_lineEdit, frequencyText(hext));
 }
+
+std::optional<Remarks> UsbPhyBlock::remarksOn(const QWidget* control) const
+{
+    if (control != m_tousbhsphy_lineEdit)
+        return {};
+    return Remarks{tree().typedHext(), {limits::usbPhyClock()}};
+}

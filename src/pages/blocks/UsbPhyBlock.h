@@ -11,6 +11,7 @@ public:
     explicit UsbPhyBlock(ClockTree& tree);
 
     void UpdateResultControls() override;
+    std::optional<Remarks> remarksOn(const QWidget* control) const override;
 
     /// The number in the field, MHz, as it is rounded there.
     double shown() const { return m_tousbhsphy_lineEdit->text().toDouble(); }

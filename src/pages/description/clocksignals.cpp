@@ -1,0 +1,165 @@
+#include "pages/description/clocksignals.h"
+
+#include "model/ZN64ConfigCLK.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kHzPerMHz = 1000.0;
+// The signals between an oscillator and a result are fewer on every tree; a picture that leads in a circle
+// ends.
+constexpr int longestWay = 40;
+
+/// Of the clocks that flags take up: the one that is drawn.
+ClockSource drawn(ClockSource clock)
+{
+    return clock == ClockSource::PllDiv2 || clock == ClockSource::PllDiv4 ? ClockSource::Pll : clock;
+}
+
+} // namespace
+
+ClockSignals::ClockSignals(const PageDescription& page, const ZN64ConfigCLK& model,
+                           const tree::Picture& picture, const tree::Circuit& circuit,
+                           const QVector<tree::ControlState>& states, double hickAtOutputs)
+    : m_page(page), m_model(model), m_picture(picture), m_circuit(circuit), m_states(states),
+      m_hickAtOutputs(hickAtOutputs)
+{
+    const QHash<QString, ClockSource> flags = flaggedClocks(page);
+    for (int net = 0; net < circuit.nets(); ++net) {
+        m_names.append(signalName(page, circuit.sourceOf(net)));
+        m_flagged.append(flags.value(circuit.sourceOf(net), ClockSource::None));
+    }
+}
+
+QString ClockSignals::boxText(const QString& name) const
+{
+    const auto box =
+        std::find_if(m_picture.above.begin(), m_picture.above.end(), [&name](const auto& figure) {
+            return figure.shape == tree::Shape::Box && figure.name == name;
+        });
+    return box != m_picture.above.end() ? box->text : QString();
+}
+
+int ClockSignals::named(int net) const
+{
+    const ClockSource clock = m_flagged[net];
+    if (clock == ClockSource::None)
+        return net;
+    if (clock == ClockSource::Hick)
+        return m_circuit.netAt(QStringLiteral("m_hick_lineEdit"));
+    const auto found = std::find_if(m_names.begin(), m_names.end(), [clock](const auto& name) {
+        return name && name->clock == drawn(clock);
+    });
+    return found != m_names.end() ? static_cast<int>(found - m_names.begin()) : -1;
+}
+
+QVector<int> ClockSignals::together(int net) const
+{
+    const int origin = named(net);
+    QVector<int> all{net};
+    if (origin < 0)
+        return all;
+    for (int other = 0; other < m_circuit.nets(); ++other)
+        if (other != net && named(other) == origin)
+            all.append(other);
+    return all;
+}
+
+std::optional<Factor> ClockSignals::flagFactor(ClockSource clock) const
+{
+    switch (clock) {
+    case ClockSource::PllDiv2:
+        return Factor{'/', 2.0};
+    case ClockSource::PllDiv4:
+        return Factor{'/', 4.0};
+    case ClockSource::Hick:
+        if (m_hickAtOutputs != m_model.Get_Hick_Input_Value())
+            return Factor{'/', m_model.Get_Hick_Input_Value() / m_hickAtOutputs};
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+std::optional<Factor> ClockSignals::factorAt(int net) const
+{
+    const QString source = m_circuit.sourceOf(net);
+    const QString text = boxText(source);
+    if (text.startsWith(QLatin1Char('/')))
+        return Factor{'/', text.mid(1).toDouble()};
+    if (m_flagged[net] != ClockSource::None)
+        return flagFactor(m_flagged[net]);
+    return factorOf(m_page, m_model, source);
+}
+
+ClockSignals::Way ClockSignals::wayOf(int net) const
+{
+    Way way;
+    for (int steps = 0; net >= 0 && steps < longestWay; ++steps) {
+        if (const std::optional<Factor> factor = factorAt(net))
+            way.factors.prepend(*factor);
+        way.root = net;
+        const int origin = named(net);
+        net = origin != net ? origin : m_circuit.netInto(m_circuit.sourceOf(net), m_states);
+    }
+    return way;
+}
+
+std::optional<ClockReading> ClockSignals::oscillator(int net) const
+{
+    const QString source = m_circuit.sourceOf(net);
+    if (source == QLatin1String("m_hick_lineEdit"))
+        return ClockReading{m_model.Get_Hick_Input_Value()};
+    const std::optional<SignalName>& name = m_names[net];
+    return name ? frequencyOf(name->clock, m_model, m_hickAtOutputs) : std::nullopt;
+}
+
+QString ClockSignals::nameOf(int net) const
+{
+    const int origin = named(net);
+    const QString source = m_circuit.sourceOf(origin >= 0 ? origin : net);
+    const std::optional<SignalName>& own = m_names[origin >= 0 ? origin : net];
+    if (own && !own->name.isEmpty())
+        return own->name;
+    const int before = m_circuit.netInto(source, m_states);
+    return before >= 0 ? nameOf(before) + boxText(source) : QString();
+}
+
+ClockSignal ClockSignals::at(int net) const
+{
+    ClockSignal signal;
+    signal.name = nameOf(net);
+    const ClockSource flagged = m_flagged[net];
+    if (flagged != ClockSource::None)
+        if (const std::optional<Factor> factor = flagFactor(flagged))
+            signal.name += QLatin1Char('/') + QString::number(factor->number);
+    const QVector<int> same = together(net);
+    signal.used =
+        std::any_of(same.begin(), same.end(), [this](int each) { return m_circuit.inUse(each, m_states); });
+    const Way way = wayOf(net);
+    if (way.root < 0)
+        return signal;
+    const std::optional<ClockReading> root = oscillator(way.root);
+    if (!root || root->words)
+        return signal;
+    const std::optional<SignalName>& own = m_names[net];
+    const ClockSource clock = own ? own->clock : flagged;
+    const bool turnsToKHz = own && own->inKHz && qstrcmp(root->unit, "MHz") == 0;
+    signal.unit = turnsToKHz ? "kHz" : root->unit;
+    if (const auto known = frequencyOf(clock, m_model, m_hickAtOutputs)) {
+        signal.clock = known->value;
+    } else {
+        signal.clock = root->value * (turnsToKHz ? kHzPerMHz : 1.0);
+        for (const Factor& factor : way.factors)
+            signal.clock = factor.applied(*signal.clock);
+    }
+    const bool inMHz = qstrcmp(root->unit, "MHz") == 0;
+    if (way.root != net || !way.factors.isEmpty())
+        signal.origin =
+            QString::number(root->value, 'f', inMHz ? 6 : 3) + QLatin1Char(' ') + QLatin1String(root->unit);
+    for (const Factor& factor : way.factors)
+        signal.origin += QStringLiteral(" %1 %2").arg(QLatin1Char(factor.sign)).arg(factor.number);
+    return signal;
+}
