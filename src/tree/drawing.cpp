@@ -234,13 +234,27 @@ void drawFigure(QPainter& painter, const Grid& grid, const Figure& figure, Use u
     drawText(painter, grid, figure.outline.boundingRect(), figure.text, captionFont());
 }
 
+QColor inkOf(Style style)
+{
+    switch (style) {
+    case Style::Region:
+    case Style::Frame:
+        return regionInk;
+    case Style::Signal:
+        return quietInk;
+    case Style::Plain:
+    case Style::Bus:
+        break;
+    }
+    return ink;
+}
+
 void drawCaption(QPainter& painter, const Grid& grid, const Caption& caption)
 {
-    const bool quiet = caption.style == Style::Region || caption.style == Style::Frame;
     if (caption.style == Style::Frame)
         painter.fillRect(QRectF(grid.onStroke(caption.rect.topLeft(), 2), caption.rect.size() * grid.scale()),
                          Qt::white);
-    painter.setPen(quiet ? regionInk : ink);
+    painter.setPen(inkOf(caption.style));
     drawText(painter, grid, caption.rect, caption.text, captionFont(caption.style));
 }
 
@@ -324,7 +338,8 @@ private:
 
 QFont captionFont(Style style)
 {
-    QFont font(QStringLiteral("Arial"), style == Style::Region ? 11 : 9);
+    const int size = style == Style::Region ? 11 : style == Style::Signal ? 8 : 9;
+    QFont font(QStringLiteral("Arial"), size);
     if (style == Style::Bus)
         font.setBold(true);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);

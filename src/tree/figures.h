@@ -82,7 +82,8 @@ enum class Style : quint8
     Plain,
     Bus,    ///< the name of a bus bar
     Region, ///< the quiet title of a part of the picture
-    Frame   ///< the quiet title in the line of a frame
+    Frame,  ///< the quiet title in the line of a frame
+    Signal  ///< the name of a signal where it is born
 };
 
 struct Caption

@@ -1,6 +1,7 @@
 #include "builder.h"
 #include "checks.h"
 #include "inventory.h"
+#include "names.h"
 #include "picture.h"
 #include "review.h"
 #include "seriestree.h"
@@ -94,7 +95,8 @@ int paint(ClockTreePage& page, const Task& task)
     PageLayout all = together(states);
     Problems problems;
     const PageDescription& series = page.description();
-    const Drawing drawing = buildDrawing(treeOf(series, task.pages, problems), all, problems);
+    Drawing drawing = buildDrawing(treeOf(series, task.pages, problems), all, problems);
+    nameSignals(drawing, states, series, problems);
     checkDrawing(drawing, states, series.word(), problems);
     for (const QString& name : page.unusedPlaces())
         problems.push_back({

@@ -11,12 +11,6 @@ constexpr double kHzPerMHz = 1000.0;
 // ends.
 constexpr int longestWay = 40;
 
-/// Of the clocks that flags take up: the one that is drawn.
-ClockSource drawn(ClockSource clock)
-{
-    return clock == ClockSource::PllDiv2 || clock == ClockSource::PllDiv4 ? ClockSource::Pll : clock;
-}
-
 } // namespace
 
 ClockSignals::ClockSignals(const PageDescription& page, const ZN64ConfigCLK& model,
@@ -49,7 +43,7 @@ int ClockSignals::named(int net) const
     if (clock == ClockSource::Hick)
         return m_circuit.netAt(QStringLiteral("m_hick_lineEdit"));
     const auto found = std::find_if(m_names.begin(), m_names.end(), [clock](const auto& name) {
-        return name && name->clock == drawn(clock);
+        return name && name->clock == drawnAs(clock);
     });
     return found != m_names.end() ? static_cast<int>(found - m_names.begin()) : -1;
 }

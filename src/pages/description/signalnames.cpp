@@ -117,6 +117,11 @@ QString signalName(ClockSource clock)
     return entry != std::end(entries) ? QLatin1String(entry->name) : QString();
 }
 
+ClockSource drawnAs(ClockSource clock)
+{
+    return clock == ClockSource::PllDiv2 || clock == ClockSource::PllDiv4 ? ClockSource::Pll : clock;
+}
+
 QHash<QString, ClockSource> flaggedClocks(const PageDescription& page)
 {
     QHash<QString, ClockSource> clocks{
