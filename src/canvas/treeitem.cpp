@@ -43,21 +43,26 @@ TreeItem::TreeItem(const QPixmap& picture, tree::Picture figures)
     setFlag(ItemUsesExtendedStyleOption);
 }
 
-void TreeItem::follow(const QList<QWidget*>& controls)
+void TreeItem::follow(const QList<QWidget*>& controls, const QHash<QString, QStringList>& takenUp)
 {
     for (QWidget* control : controls)
         m_controls.insert(control->objectName(), control);
+    m_takenUp = takenUp;
     QStringList fields;
     for (const tree::Wire& wire : m_whole.wires)
         fields += wire.behind;
     fields.removeDuplicates();
-    m_fields.clear();
     for (const QString& field : fields)
         if (QWidget* control = m_controls.value(field))
             m_fields.append(control);
+    cut();
+}
+
+void TreeItem::cut()
+{
     m_covers = covers();
     m_figures = tree::cutAt(m_whole, m_covers);
-    m_circuit = tree::Circuit(m_figures);
+    m_circuit = tree::Circuit(m_figures, m_takenUp);
     m_watched.clear();
     for (const QString& control : m_circuit.controls())
         m_watched.append(m_controls.value(control));
@@ -79,7 +84,7 @@ QVector<tree::Cover> TreeItem::covers() const
 void TreeItem::refit()
 {
     if (!m_fields.isEmpty() && !sameFields(m_covers, covers()))
-        follow({});
+        cut();
 }
 
 const tree::Picture& TreeItem::figures()

@@ -16,8 +16,8 @@ public:
     TreeItem(const QPixmap& picture, tree::Picture figures);
 
     /// From now on the picture is in the state of these controls, by their object names. They must outlive
-    /// it.
-    void follow(const QList<QWidget*>& controls);
+    /// it. takenUp: what may give the signals of the flags' names, as a circuit wants it.
+    void follow(const QList<QWidget*>& controls, const QHash<QString, QStringList>& takenUp);
 
     /// The figures as they are at present: in each mode of the PLL other fields stand before its wires.
     const tree::Picture& figures();
@@ -33,12 +33,14 @@ public:
 private:
     /// Brings figures and circuit in line with the fields before the wires.
     void refit();
+    void cut();
     QVector<tree::Cover> covers() const;
 
     const tree::Picture m_whole;
     tree::Picture m_figures;
     tree::Circuit m_circuit;
     QHash<QString, QWidget*> m_controls;
+    QHash<QString, QStringList> m_takenUp;
     QVector<QWidget*> m_fields;  ///< that may stand before wires
     QVector<QWidget*> m_watched; ///< the circuit's controls; null for one that is not there
     QVector<tree::Cover> m_covers;

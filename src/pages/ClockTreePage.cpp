@@ -6,6 +6,7 @@
 #include "pages/blocks/LowSpeedBlock.h"
 #include "pages/blocks/OutputsBlock.h"
 #include "pages/blocks/PllSourceBlock.h"
+#include "pages/description/signalnames.h"
 
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -26,7 +27,7 @@ void ClockTreePage::build()
 {
     createBlocks();
     NewAllControl();
-    treeItem().follow(findChildren<QWidget*>());
+    treeItem().follow(findChildren<QWidget*>(), takenUp(m_description));
     orderSettings();
     view()->setAccessibleName(QStringLiteral("clock tree"));
     view()->setAccessibleDescription(

@@ -64,7 +64,8 @@ private:
 
     bool usesPieces(int net)
     {
-        bool used = false;
+        const QVector<int>& flags = m_circuit.m_flags[net];
+        bool used = std::any_of(flags.begin(), flags.end(), [this](int flag) { return isUsed(flag); });
         const QVector<int>& pieces = m_circuit.m_pieces[net];
         for (auto at = pieces.rbegin(); at != pieces.rend(); ++at) {
             const Piece& piece = m_circuit.m_wires[*at];
@@ -86,7 +87,7 @@ private:
     QVector<Use> m_wires;
 };
 
-Circuit::Circuit(const Picture& picture)
+Circuit::Circuit(const Picture& picture, const QHash<QString, QStringList>& takenUp)
 {
     for (const Figure& figure : picture.below)
         add(figure);
@@ -114,11 +115,28 @@ Circuit::Circuit(const Picture& picture)
         m_above.append(m_byName.value(figure.name, -1));
         m_bars.append(figure.net);
     }
+    takeUp(takenUp);
     for (Element& each : m_elements)
         if (each.kind == Kind::Control || each.kind == Kind::Radio) {
             each.control = m_controls.size();
             m_controls.append(each.name);
         }
+}
+
+void Circuit::takeUp(const QHash<QString, QStringList>& takenUp)
+{
+    m_flags.resize(m_sources.size());
+    for (int net = 0; net < m_sources.size(); ++net) {
+        m_named.append(net);
+        for (const QString& source : takenUp.value(sourceOf(net))) {
+            const auto known = m_byName.constFind(source);
+            if (known == m_byName.constEnd() || m_elements[*known].gives < 0)
+                continue;
+            m_named.last() = m_elements[*known].gives;
+            m_flags[m_named.last()].append(net);
+            break;
+        }
+    }
 }
 
 /// The element of that name, which is a control if no figure is called so.

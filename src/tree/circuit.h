@@ -49,7 +49,9 @@ class Circuit
 {
 public:
     Circuit() = default;
-    explicit Circuit(const Picture& picture);
+    /// takenUp: for flags, the controls or figures that may give the signal of their name; the first that is
+    /// in the picture does.
+    explicit Circuit(const Picture& picture, const QHash<QString, QStringList>& takenUp = {});
 
     /// The controls whose states count. The states of all calls are in this order.
     const QStringList& controls() const { return m_controls; }
@@ -64,6 +66,9 @@ public:
     /// The signal that reaches the control or figure at present: through a multiplexer that of the radio
     /// button that is checked. -1 for none.
     int netInto(const QString& element, const QVector<ControlState>& states) const;
+    /// The signal that the flag which gives this one takes up: the two are one. The signal itself if no flag
+    /// gives it, or one that takes up nothing of the picture.
+    int named(int net) const { return m_named[net]; }
     /// Whether any piece or flag of the signal is in use.
     bool inUse(int net, const QVector<ControlState>& states) const;
 
@@ -94,12 +99,15 @@ private:
 
     int element(const QString& name);
     void add(const Figure& figure);
+    void takeUp(const QHash<QString, QStringList>& takenUp);
 
     QVector<Element> m_elements;
     QHash<QString, int> m_byName;
     QStringList m_controls;
     QVector<int> m_sources;         ///< element of each signal
     QVector<QVector<int>> m_pieces; ///< of each signal
+    QVector<int> m_named;           ///< of each signal
+    QVector<QVector<int>> m_flags;  ///< of each signal: those that flags give which take it up
     QVector<Piece> m_wires;
     QVector<int> m_below; ///< elements of the figures; -1 for one without a state
     QVector<int> m_above;

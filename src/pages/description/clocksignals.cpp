@@ -35,27 +35,11 @@ QString ClockSignals::boxText(const QString& name) const
     return box != m_picture.above.end() ? box->text : QString();
 }
 
-int ClockSignals::named(int net) const
-{
-    const ClockSource clock = m_flagged[net];
-    if (clock == ClockSource::None)
-        return net;
-    if (clock == ClockSource::Hick)
-        return m_circuit.netAt(QStringLiteral("m_hick_lineEdit"));
-    const auto found = std::find_if(m_names.begin(), m_names.end(), [clock](const auto& name) {
-        return name && name->clock == drawnAs(clock);
-    });
-    return found != m_names.end() ? static_cast<int>(found - m_names.begin()) : -1;
-}
-
 QVector<int> ClockSignals::together(int net) const
 {
-    const int origin = named(net);
     QVector<int> all{net};
-    if (origin < 0)
-        return all;
     for (int other = 0; other < m_circuit.nets(); ++other)
-        if (other != net && named(other) == origin)
+        if (other != net && m_circuit.named(other) == m_circuit.named(net))
             all.append(other);
     return all;
 }
@@ -95,7 +79,7 @@ ClockSignals::Way ClockSignals::wayOf(int net) const
         if (const std::optional<Factor> factor = factorAt(net))
             way.factors.prepend(*factor);
         way.root = net;
-        const int origin = named(net);
+        const int origin = m_circuit.named(net);
         net = origin != net ? origin : m_circuit.netInto(m_circuit.sourceOf(net), m_states);
     }
     return way;
@@ -112,9 +96,9 @@ std::optional<ClockReading> ClockSignals::oscillator(int net) const
 
 QString ClockSignals::nameOf(int net) const
 {
-    const int origin = named(net);
-    const QString source = m_circuit.sourceOf(origin >= 0 ? origin : net);
-    const std::optional<SignalName>& own = m_names[origin >= 0 ? origin : net];
+    const int origin = m_circuit.named(net);
+    const QString source = m_circuit.sourceOf(origin);
+    const std::optional<SignalName>& own = m_names[origin];
     if (own && !own->name.isEmpty())
         return own->name;
     const int before = m_circuit.netInto(source, m_states);

@@ -34,9 +34,6 @@ private:
     };
 
     QString nameOf(int net) const;
-    /// Where the flag that gives this signal takes it up; the signal itself if it is not given by a flag, -1
-    /// for a flag of what comes from outside.
-    int named(int net) const;
     Way wayOf(int net) const;
     std::optional<Factor> factorAt(int net) const;
     std::optional<Factor> flagFactor(ClockSource clock) const;

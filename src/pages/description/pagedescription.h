@@ -127,6 +127,8 @@ struct PeripheralSource
     /// The clock that decides red; on some series another than the one shown, as their users know it. None is
     /// never red.
     ClockSource limited = ClockSource::None;
+    /// The clock that the chip takes, where another one is shown.
+    std::optional<ClockSource> taken = {};
 };
 
 /// What the reader of design files does with one number of a peripheral's source.

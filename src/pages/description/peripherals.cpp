@@ -94,6 +94,7 @@ PeripheralClock peripherals::can()
     // "pll" shows the system clock: these series feed it from the PLL and know the two as one.
     PeripheralClock clock = canOf(clockOf("can", MODEL_FIELD(can1_Clock_Source), MODEL_FIELD(CAN1_Switch)),
                                   source(CAN_CLOCK_SOURCE_PLL, "pll", ClockSource::Sclk));
+    clock.sources[1].taken = ClockSource::Pll;
     clock.start = CAN_CLOCK_SOURCE_PCLK;
     return clock;
 }

@@ -132,8 +132,25 @@ QHash<QString, ClockSource> flaggedClocks(const PageDescription& page)
             clocks.insert(output.member(row, "QLabel1"), row.source);
     for (const PeripheralClock& clock : page.peripherals)
         for (const PeripheralSource& source : clock.sources)
-            clocks.insert(clock.sourceLabel(source), source.shown);
+            clocks.insert(clock.sourceLabel(source), source.taken.value_or(source.shown));
     return clocks;
+}
+
+QHash<QString, QStringList> takenUp(const PageDescription& page)
+{
+    QHash<QString, QStringList> sources;
+    const QHash<QString, ClockSource> flags = flaggedClocks(page);
+    for (auto flag = flags.begin(); flag != flags.end(); ++flag) {
+        QStringList& found = sources[flag.key()];
+        if (*flag == ClockSource::Hext)
+            found << QLatin1String(page.hextEdit);
+        else if (*flag == ClockSource::Hick)
+            found << QStringLiteral("m_hick_lineEdit");
+        for (const Entry& entry : entries)
+            if (entry.clock != ClockSource::None && entry.clock == drawnAs(*flag))
+                found << QLatin1String(entry.source);
+    }
+    return sources;
 }
 
 std::optional<Factor> factorOf(const PageDescription& page, const ZN64ConfigCLK& model,

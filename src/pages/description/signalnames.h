@@ -21,11 +21,12 @@ std::optional<SignalName> signalName(const PageDescription& page, const QString&
 /// The name of the signal that is the clock; empty for one that is not drawn by its name.
 QString signalName(ClockSource clock);
 
-/// Of a clock that flags take up, the one that is drawn: the steps behind it are not.
-ClockSource drawnAs(ClockSource clock);
-
 /// The clocks that the flags beside selectors and fields take up, by the names of the flags.
 QHash<QString, ClockSource> flaggedClocks(const PageDescription& page);
+/// Of a clock that flags take up, the one that is drawn: the steps behind it are not.
+ClockSource drawnAs(ClockSource clock);
+/// What may give the signals of the flags' names; a tree has one of each, or none.
+QHash<QString, QStringList> takenUp(const PageDescription& page);
 
 /// What a control makes of a signal that passes it.
 struct Factor

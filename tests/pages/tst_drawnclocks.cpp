@@ -1,0 +1,212 @@
+#include "drawing.h"
+#include "pagefixture.h"
+
+#include <QObject>
+
+#include <cmath>
+
+/// The pictures of all trees, held against the numbers on them and against what the model says is in use.
+class TestDrawnClocks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void numbers_data() { pageRows(); }
+    void numbers();
+    void derivations_data() { pageRows(); }
+    void derivations();
+    void inUse_data() { pageRows(); }
+    void inUse();
+    void everyDeviationDeviates();
+};
+
+namespace {
+
+/// Why the picture and the number at its end may differ.
+struct Deviation
+{
+    const char* name;
+    const char* reason;
+    bool seen = false;
+};
+
+enum
+{
+    TimerHalves,
+    CanFromPll,
+    HickAtOutputs,
+    KeptByOther,
+    CanOnPclk,
+    CanOnPll,
+    OscillatorOfPeripheral
+};
+
+Deviation deviations[] = {
+    {"timer halves",
+     "the steps of / 2 on the timers' ways are drawn on some trees, and the multiplier counts alone"                  },
+    {"CAN from the PLL",           "shows the system clock: these series feed it from the PLL and know the two as one"},
+    {"hick at outputs",            "gives 8 MHz there on some series, or by the routes on which it is taken"          },
+    {"kept by another",            "one result is kept up by the switch of another peripheral"                        },
+    {"CAN on pclk",
+     "counts as a user of the PLL where there are three CAN blocks, so that generated code stays"                     },
+    {"CAN on the PLL",             "is not counted as its user on series without USB"                                 },
+    {"oscillator of a peripheral", "is not counted by the model, nor that of a PLL that only outputs use"             },
+};
+
+const Deviation* deviationOf(const PageFixture& page, const QString& end, const QString& flag)
+{
+    const PageDescription& series = page.page->description();
+    if (series.timerHalves() && end.contains(QLatin1String("tmr_lineEdit")))
+        return &deviations[TimerHalves];
+    if (flag.startsWith(QLatin1String("hick")))
+        return &deviations[HickAtOutputs];
+    if (end == QLatin1String("m_tocan_lineEdit") && flag == QLatin1String("pll"))
+        return &deviations[CanFromPll];
+    for (const PeripheralClock& clock : series.peripherals)
+        if (end == clock.result() && clock.writtenWhile.get)
+            return &deviations[KeptByOther];
+    return nullptr;
+}
+
+/// What stands at the end, MHz: in the field itself, or beside the flag or the pad.
+std::optional<double> shownAt(const PageFixture& page, const QString& end)
+{
+    QString name = end;
+    if (end == QLatin1String("usb"))
+        name = QStringLiteral("m_usbclock_Label");
+    else if (end.endsWith(QLatin1String("pad")))
+        name = QStringLiteral("m_%1_Value_QLabel").arg(end.chopped(3));
+    const auto* control = page.page->findChild<QWidget*>(name);
+    const bool field =
+        qobject_cast<const QLabel*>(control) ||
+        (name.startsWith(QLatin1String("m_to")) && name.endsWith(QLatin1String("_lineEdit"))) ||
+        name == QLatin1String("m_sclk_lineEdit");
+    if (!control || !field || (!control->isEnabled() && name != QLatin1String("m_sclk_lineEdit")) ||
+        control->isHidden())
+        return {};
+    const QString text = control->property("text").toString();
+    static const QRegularExpression number(QStringLiteral(R"(\d+(\.\d+)?)"));
+    const auto match = number.match(text);
+    if (!match.hasMatch())
+        return {};
+    const QList<QLabel*> units = page.page->findChildren<QLabel*>(
+        QString(name).replace(QLatin1String("_lineEdit"), QLatin1String("_Label")));
+    const bool inKHz = text.contains(QLatin1String("kHz")) || name == QLatin1String("m_towdt_lineEdit") ||
+                       (!units.isEmpty() && units.first()->text().contains(QLatin1String("kHz")));
+    return match.captured().toDouble() * (inKHz ? 0.001 : 1.0);
+}
+
+} // namespace
+
+void TestDrawnClocks::numbers()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    QRandomGenerator random(word.size() + page.model().series());
+    int compared = 0;
+    for (int round = 0; round < randomRounds(page); ++round) {
+        page.takeRandomSteps(12, random);
+        const Eye eye(page);
+        for (const QString& end : eye.ends()) {
+            const std::optional<double> shown = shownAt(page, end);
+            const std::optional<double> drawn = eye.into(end);
+            if (!shown || !drawn)
+                continue;
+            ++compared;
+            // Three decimals of the number's unit.
+            if (std::fabs(*shown - *drawn) <= 0.00051)
+                continue;
+            const Deviation* told = deviationOf(page, end, eye.lastFlag());
+            QVERIFY2(told, qPrintable(QStringLiteral("%1 shows %2, the wires lead to %3\n%4")
+                                          .arg(end)
+                                          .arg(*shown)
+                                          .arg(*drawn)
+                                          .arg(page.state().join(QLatin1Char('\n')))));
+            const_cast<Deviation*>(told)->seen = true;
+        }
+    }
+    QVERIFY2(compared > 30, qPrintable(QString::number(compared)));
+}
+
+/// The number in front of a derivation is what the derivation comes to.
+void TestDrawnClocks::derivations()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    QRandomGenerator random(page.model().series());
+    static const QRegularExpression number(QStringLiteral(R"( ([\d.]+) (k|M)Hz = ([\d.]+) (k|M)Hz(.*)$)"));
+    static const QRegularExpression step(QStringLiteral(R"( ([*/]) ([\d.]+))"));
+    for (int round = 0; round < randomRounds(page); ++round) {
+        page.takeRandomSteps(12, random);
+        for (int net = 0; net < page.page->treeItem().circuit().nets(); ++net) {
+            const QString told = page.page->tellSignal(net).join(QLatin1Char(' '));
+            const auto parts = number.match(told);
+            if (!parts.hasMatch())
+                continue;
+            double clock = parts.captured(3).toDouble();
+            for (auto all = step.globalMatch(parts.captured(5)); all.hasNext();) {
+                const auto each = all.next();
+                const double factor = each.captured(2).toDouble();
+                clock *= each.captured(1) == QLatin1String("/") ? 1 / factor : factor;
+            }
+            const bool toKHz = parts.captured(2) != parts.captured(4);
+            QVERIFY2(std::fabs(clock * (toKHz ? 1000 : 1) - parts.captured(1).toDouble()) < 0.0011,
+                     qPrintable(told));
+        }
+    }
+}
+
+/// What the picture draws as used is what the model, and with it generated code, switches on.
+void TestDrawnClocks::inUse()
+{
+    QFETCH(QString, word);
+    const PageFixture page(word);
+    QRandomGenerator random(page.model().series() + 7);
+    const auto compare = [&page](const QString& source, bool modelUses, Deviation& told, bool excused) {
+        TreeItem& tree = page.page->treeItem();
+        const bool drawn = tree.circuit().inUse(tree.circuit().netAt(source), tree.states());
+        if (drawn == modelUses)
+            return true;
+        told.seen = true;
+        if (!excused)
+            qWarning("%s\n%s", qPrintable(source), qPrintable(page.state().join(QLatin1Char('\n'))));
+        return excused;
+    };
+    for (int round = 0; round < randomRounds(page); ++round) {
+        page.takeRandomSteps(12, random);
+        const ZN64ConfigCLK& model = page.model();
+        const PageDescription& series = page.page->description();
+        const auto takenByPeripheral = [&](const char* source) {
+            return std::any_of(series.peripherals.begin(), series.peripherals.end(), [&](const auto& clock) {
+                return clock.on.get(model) != 0.0 &&
+                       std::any_of(clock.sources.begin(), clock.sources.end(), [&](const auto& each) {
+                           return each.number == clock.source.get(model) &&
+                                  QByteArray(each.name).startsWith(source);
+                       });
+            });
+        };
+        const bool canOnPclk =
+            takenByPeripheral("pclk") &&
+            (model.Get_CAN1_Switch() || model.Get_CAN2_Switch() || model.Get_CAN3_Switch());
+        const bool canOnPll = takenByPeripheral("pll") && !series.usb;
+        QVERIFY(compare(QStringLiteral("pllrcs"), model.pll_isEnable(),
+                        deviations[canOnPll ? CanOnPll : CanOnPclk], canOnPclk || canOnPll));
+        const bool pllUser = takenByPeripheral("pll") || model.Get_CLKOUT() == CLKOUT_PLL;
+        const bool rtc = model.Get_ToRTC_Switch() && model.Get_RTCSEL() == RTCSEL_HEXT;
+        const bool hextByPll = pllUser && model.Get_PLLRC() == PLLRC_HEXT;
+        QVERIFY(compare(QLatin1String(series.hextEdit), model.hext_isEnable() || rtc,
+                        deviations[OscillatorOfPeripheral], takenByPeripheral("hext") || hextByPll));
+        const bool hickByPll = pllUser && model.Get_PLLRC() == PLLRC_HICK;
+        QVERIFY(compare(QStringLiteral("m_hick_lineEdit"), model.hick_isEnable(),
+                        deviations[OscillatorOfPeripheral], takenByPeripheral("hick") || hickByPll));
+    }
+}
+
+void TestDrawnClocks::everyDeviationDeviates()
+{
+    for (const Deviation& each : deviations)
+        QVERIFY2(each.seen, each.name);
+}
+
+QTEST_MAIN(TestDrawnClocks)
+#include "tst_drawnclocks.moc"
