@@ -1,5 +1,6 @@
 #include "barepage.h"
 #include "figures.h"
+#include "treebench.h"
 
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
@@ -10,7 +11,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -117,32 +117,6 @@ void benchView(ClockTreePage& page)
     page.ZoomReset();
 }
 
-/// A step of a drag at a zoom, painted, against a plain view with the same controls and a plain pixmap.
-void benchPicture(ClockTreePage& page, const BarePage& bare)
-{
-    const std::unique_ptr<QGraphicsView> plain = bare.build();
-    page.resize(1420, 840);
-    plain->resize(1420, 840);
-    page.show();
-    plain->show();
-    QApplication::processEvents();
-    const auto panned = [](QGraphicsView& view, double zoom) {
-        view.setTransform(QTransform::fromScale(zoom, zoom));
-        double way = 5.0;
-        return figures::median(quickRuns, [&] {
-            way = -way;
-            view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->value() + qRound(way));
-            view.viewport()->repaint();
-        });
-    };
-    for (const double zoom : {1.0, 1.5, 5.0}) {
-        const double pixmap = panned(*plain, zoom);
-        figures::print(qPrintable(QStringLiteral("pan step at %1%").arg(100 * zoom)),
-                       panned(*page.view(), zoom), "with a pixmap", pixmap);
-    }
-    page.ZoomReset();
-}
-
 /// On a page with both modes of the PLL: an edit that runs the flexible solver.
 void benchFlexibleEdit(ClockTreePage& page)
 {
@@ -213,7 +187,7 @@ void benchSeries(ZN64MCUSERIALS series, const QString& folder)
     benchEdits(*page, bare);
     benchFlexibleEdit(*page);
     benchView(*page);
-    benchPicture(*page, bare);
+    benchTree(*page, bare);
     benchGeneration(*page, folder);
 }
 
@@ -271,8 +245,10 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     look::apply();
     QTemporaryDir folder;
+    const QStringList wanted = application.arguments().mid(1);
     for (const SeriesTraits& traits : seriesList())
-        benchSeries(traits.series, folder.path());
+        if (wanted.isEmpty() || wanted.contains(QLatin1String(traits.word)))
+            benchSeries(traits.series, folder.path());
     std::printf("All series\n");
     benchSolver();
     benchWindow();
