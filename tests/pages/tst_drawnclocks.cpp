@@ -1,7 +1,9 @@
 #include "drawing.h"
 #include "pagefixture.h"
 
+#include <QHelpEvent>
 #include <QObject>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -18,6 +20,9 @@ private slots:
     void inUse_data() { pageRows(); }
     void inUse();
     void everyDeviationDeviates();
+    void sentences_data();
+    void sentences();
+    void pointer();
 };
 
 namespace {
@@ -206,6 +211,72 @@ void TestDrawnClocks::everyDeviationDeviates()
 {
     for (const Deviation& each : deviations)
         QVERIFY2(each.seen, each.name);
+}
+
+void TestDrawnClocks::sentences_data()
+{
+    rows({
+        "G110 | | toapb1peripheral_lineEdit | apb1 peripheral, MHz; at most 100 MHz; pclk1 96.000 MHz = "
+        "8.000000 MHz * 24 / 1 / 2",
+        "G110 | toadcswitch=enable toadcdiv=/2 | toadc_lineEdit | adc, MHz; 48.000 MHz, at most 28 MHz; "
+        "adcclk 48.000 MHz = 8.000000 MHz * 24 / 1 / 2 / 2",
+        "G110 | | tortc_lineEdit | RTC clock, kHz; not in use",
+        "G110 | tortc=enable rtcsel_hext | tortc_lineEdit | RTC clock, kHz; rtc 62.500 kHz = 8.000000 MHz / "
+        "128",
+        "G110 | hext_lineEdit~9 | hext_lineEdit | hext, MHz; 4 to 25 MHz; typed, not yet applied: Return "
+        "applies it; hext 8.000 MHz",
+        "G110 | sclk_lineEdit=64 | sclk_lineEdit | system clock, MHz; 4 to 200 MHz; 64.000 MHz wanted, met "
+        "exactly; sclk 64.000 MHz = 8.000000 MHz * 8",
+        "G110 | sclk_lineEdit=65 | sclk_lineEdit | system clock, MHz; 4 to 200 MHz; 65.000 MHz wanted, "
+        "nearest is 64.000 MHz, -15384.615 ppm off; sclk 64.000 MHz = 8.000000 MHz * 8",
+        "G110 | sclk_lineEdit=65 pllmult=*_9 | sclk_lineEdit | system clock, MHz; 4 to 200 MHz; sclk 72.000 "
+        "MHz = 8.000000 MHz * 9",
+        "G110 | sclkselect_hext | sclk_lineEdit | system clock, MHz; at most 200 MHz; sclk 8.000 MHz = hext",
+        "G110 | tousbswitch=enable sclk_lineEdit=80 | usbclock_Label | USB clock; 20.000 MHz, must be 48 "
+        "MHz; 48.000 MHz wanted, nearest is 20.000 MHz, -583333.333 ppm off; usb 20.000 MHz = 8.000000 MHz * "
+        "10 / 4",
+        "G152 | pllns_lineEdit~150 | pllns_lineEdit | PLL NS; 31 to 500; typed, not yet applied: Return "
+        "applies it; vco 1152.000 MHz = 8.000000 MHz / 1 * 144",
+        "G152 | clockout1pin=PA8 clockout1_hick | clockout1div1_ComboBox | clock output 1 divider 1; "
+        "clockout1 8.000 MHz = 48.000000 MHz / 6 / 1",
+        "G165 | can1switch=enable can1clocksel_pllu | tocan1_lineEdit | can1 clock, MHz; sclk at most 192 "
+        "MHz; can1 72.000 MHz = 8.000000 MHz / 1 * 144 / 16",
+    });
+}
+
+/// What a tool tip says of a control, and an assistive tool in the same words.
+void TestDrawnClocks::sentences()
+{
+    QFETCH(QStringList, fields);
+    const PageFixture& page = resetPage(fields[0]);
+    page.take(fields[1]);
+    QCOMPARE(page.page->tellControl(page.find(fields[2])).join(QLatin1String("; ")), fields[3]);
+}
+
+/// The signal below the pointer is lifted out of the picture with the flags of its name, and told of.
+void TestDrawnClocks::pointer()
+{
+    const PageFixture& page = resetPage(QStringLiteral("G165"));
+    const QPoint i2s = page.page->view()->mapFromScene(895, 150);
+    const auto colorAt = [&page](const QPoint& place) {
+        return page.viewport()->grab().toImage().pixelColor(place);
+    };
+    const auto moveTo = [&page](const QPoint& place) {
+        QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(page.viewport(), &move);
+    };
+    const QPoint beside = i2s + QPoint(3, 0);
+    const QPoint flag = page.middleOf(page.find(QStringLiteral("clockout_sclk_QLabel1"))) - QPoint(30, 0);
+    const QColor ground = colorAt(beside);
+    moveTo(i2s);
+    QVERIFY(colorAt(beside) != ground);
+    QHelpEvent help(QEvent::ToolTip, i2s, page.viewport()->mapToGlobal(i2s));
+    QApplication::sendEvent(page.viewport(), &help);
+    QCOMPARE(QToolTip::text(), QStringLiteral("sclk 144.000 MHz = 8.000000 MHz / 1 * 144 / 8"));
+    moveTo(flag);
+    QVERIFY(colorAt(beside) != ground);
+    moveTo(page.middleOf(page.find(QStringLiteral("ahbdiv_ComboBox"))));
+    QCOMPARE(colorAt(beside), ground);
 }
 
 QTEST_MAIN(TestDrawnClocks)

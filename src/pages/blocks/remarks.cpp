@@ -35,9 +35,10 @@ QString differenceText(double shown, double wanted)
 {
     const double ppm = (shown - wanted) / wanted * million;
     if (std::fabs(ppm) < leastPpm)
-        return words(QT_TRANSLATE_NOOP("ClockTree", "%1, met exactly")).arg(megahertz(wanted));
-    return words(QT_TRANSLATE_NOOP("ClockTree", "nearest to %1, %2 ppm off"))
-        .arg(megahertz(wanted), (ppm > 0 ? QStringLiteral("+") : QString()) + QString::number(ppm, 'f', 3));
+        return words(QT_TRANSLATE_NOOP("ClockTree", "%1 wanted, met exactly")).arg(megahertz(wanted));
+    const QString signedPpm = (ppm > 0 ? QStringLiteral("+") : QString()) + QString::number(ppm, 'f', 3);
+    return words(QT_TRANSLATE_NOOP("ClockTree", "%1 wanted, nearest is %2, %3 ppm off"))
+        .arg(megahertz(wanted), megahertz(shown), signedPpm);
 }
 
 QString rangeText(const Remarks& remarks)

@@ -105,6 +105,19 @@ QString ClockSignals::nameOf(int net) const
     return before >= 0 ? nameOf(before) + boxText(source) : QString();
 }
 
+/// "8.000000 MHz / 1 * 144", or the name of the oscillator where nothing is made of its clock on the way.
+QString ClockSignals::originOf(const Way& way, const ClockReading& root, const QString& name)
+{
+    if (way.factors.isEmpty())
+        return name;
+    const bool inMHz = qstrcmp(root.unit, "MHz") == 0;
+    QString origin =
+        QString::number(root.value, 'f', inMHz ? 6 : 3) + QLatin1Char(' ') + QLatin1String(root.unit);
+    for (const Factor& factor : way.factors)
+        origin += QStringLiteral(" %1 %2").arg(QLatin1Char(factor.sign)).arg(factor.number);
+    return origin;
+}
+
 ClockSignal ClockSignals::at(int net) const
 {
     ClockSignal signal;
@@ -133,11 +146,8 @@ ClockSignal ClockSignals::at(int net) const
         for (const Factor& factor : way.factors)
             signal.clock = factor.applied(*signal.clock);
     }
-    const bool inMHz = qstrcmp(root->unit, "MHz") == 0;
-    if (way.root != net || !way.factors.isEmpty())
-        signal.origin =
-            QString::number(root->value, 'f', inMHz ? 6 : 3) + QLatin1Char(' ') + QLatin1String(root->unit);
-    for (const Factor& factor : way.factors)
-        signal.origin += QStringLiteral(" %1 %2").arg(QLatin1Char(factor.sign)).arg(factor.number);
+    signal.origin = originOf(way, *root, nameOf(way.root));
+    if (signal.origin == signal.name)
+        signal.origin.clear();
     return signal;
 }

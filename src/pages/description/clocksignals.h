@@ -33,6 +33,7 @@ private:
         QVector<Factor> factors;
     };
 
+    static QString originOf(const Way& way, const ClockReading& root, const QString& name);
     QString nameOf(int net) const;
     Way wayOf(int net) const;
     std::optional<Factor> factorAt(int net) const;
