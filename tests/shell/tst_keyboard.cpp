@@ -76,6 +76,14 @@ struct Keyboard : FormFixture
         return kind && control->isEnabled() && control->isVisible();
     }
 
+    bool isFramed(const QWidget* control) const
+    {
+        const QRectF place = control->window()->graphicsProxyWidget()->sceneBoundingRect();
+        const QPoint above(view()->mapFromScene(QPointF(place.center().x(), place.top() - 2)));
+        const QImage shot = view()->viewport()->grab(QRect(above, QSize(1, 1))).toImage();
+        return shot.pixelColor(0, 0) == QColor(0, 32, 82);
+    }
+
     bool isInSight(const QWidget* control) const
     {
         const QGraphicsItem* item = control->window()->graphicsProxyWidget();
@@ -221,6 +229,57 @@ private slots:
         QCOMPARE(keyboard.focusName(), "m_apb1div_ComboBox"_s);
     }
 
+    /// What a click led to leaves the arrows to the picture, but for a text; nothing takes the keys that zoom.
+    void arrowsAfterAClick_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("panned");
+        QTest::newRow("box") << "m_apb1div_ComboBox"_s << int(Qt::Key_Down) << true;
+        QTest::newRow("button") << "m_sclkselect_pll_RadioButton"_s << int(Qt::Key_Down) << true;
+        QTest::newRow("text") << "m_hext_lineEdit"_s << int(Qt::Key_Left) << false;
+    }
+    void arrowsAfterAClick()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, key);
+        Keyboard keyboard(ZN64G125);
+        QGraphicsView* view = keyboard.view();
+        auto* control = keyboard.control(qPrintable(name));
+        const auto panned = [&](int key) {
+            const QPointF corner = view->mapToScene(0, 0);
+            keyboard.press(key);
+            return view->mapToScene(0, 0) != corner;
+        };
+        const auto click = [&] {
+            const QGraphicsItem* item = control->window()->graphicsProxyWidget();
+            QCoreApplication::processEvents();
+            view->ensureVisible(item);
+            const QPoint place = view->mapFromScene(item->sceneBoundingRect().center());
+            QTest::mouseClick(keyboard.form.windowHandle(), Qt::LeftButton, {},
+                              view->viewport()->mapTo(&keyboard.form, place));
+        };
+        // By mouse, also to the control to which the keyboard had led.
+        for (bool byKeyboardBefore : {false, true}) {
+            if (byKeyboardBefore)
+                keyboard.goTo(control);
+            click();
+            if (auto* combo = qobject_cast<QComboBox*>(control)) {
+                QVERIFY(!panned(Qt::Key_Up)); // the list is open
+                keyboard.press(Qt::Key_Return);
+                QTRY_VERIFY(!combo->view()->isVisible());
+            }
+            QTRY_COMPARE(keyboard.focusName(), name);
+            QTEST(panned(key), "panned");
+            QVERIFY(!keyboard.isFramed(control));
+        }
+        const double scale = view->transform().m11();
+        keyboard.press(Qt::Key_Plus);
+        QVERIFY(view->transform().m11() > scale);
+        keyboard.press(Qt::Key_Tab);
+        QVERIFY(keyboard.isFramed(keyboard.focus()));
+    }
+
     // A control that is greyed while it has the focus passes it on; one that has it no more keeps out.
     void greyedControls()
     {
@@ -251,16 +310,10 @@ private slots:
     {
         Keyboard keyboard(ZN64G110);
         auto* combo = keyboard.control("m_ahbdiv_ComboBox");
-        const auto framed = [&] {
-            const QRectF place = combo->window()->graphicsProxyWidget()->sceneBoundingRect();
-            const QPoint above(keyboard.view()->mapFromScene(place.center().x(), place.top() - 2));
-            const QImage shot = keyboard.view()->viewport()->grab(QRect(above, QSize(1, 1))).toImage();
-            return shot.pixelColor(0, 0) == QColor(0, 32, 82);
-        };
         keyboard.goTo(combo);
-        QVERIFY(framed());
+        QVERIFY(keyboard.isFramed(combo));
         keyboard.press(Qt::Key_Tab);
-        QVERIFY(!framed());
+        QVERIFY(!keyboard.isFramed(combo));
     }
 
     void menuTitleIsFramed()
