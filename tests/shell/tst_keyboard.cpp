@@ -1,7 +1,10 @@
 #include "formfixture.h"
 
+#include "canvas/CustomQControl.h"
 #include "model/seriestraits.h"
 #include "pages/ClockTreePage.h"
+#include "shell/MCUSelect_Form.h"
+#include "widgets/look.h"
 
 #include <QAccessible>
 #include <QButtonGroup>
@@ -92,6 +95,20 @@ struct Keyboard : FormFixture
     }
 };
 
+/// Whether the box shows its item as one with room to spare does, to the left of its arrow.
+bool showsWhole(const CustomComboBox1* box, int item)
+{
+    constexpr int arrowColumn = 16;
+    const auto seen = [&](int width) {
+        CustomComboBox1 shown;
+        shown.setFont(box->font());
+        shown.addItem(box->itemText(item));
+        shown.setFixedSize(width, 25);
+        return shown.grab(QRect(2, 0, box->width() - arrowColumn - 2, 25)).toImage();
+    };
+    return seen(box->width()) == seen(box->width() + 60);
+}
+
 QObject* stopOf(QWidget* control)
 {
     const auto* button = qobject_cast<QRadioButton*>(control);
@@ -111,6 +128,37 @@ private slots:
         QTest::addColumn<int>("series");
         for (const SeriesTraits& traits : seriesList())
             QTest::newRow(traits.word) << int(traits.series);
+    }
+
+    void initTestCase()
+    {
+        look::apply();
+        look::fixResolution();
+    }
+
+    /// Also run with another font resolution.
+    void nothingIsCut_data() { everyPage_data(); }
+    void nothingIsCut()
+    {
+        QFETCH(int, series);
+        Keyboard keyboard{ZN64MCUSERIALS(series)};
+        MCUSelect_Form dialog(&keyboard.form);
+        dialog.show();
+        QCoreApplication::processEvents();
+        const QList<QWidget*> all =
+            keyboard.form.findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
+        for (const QWidget* widget : all) {
+            if (widget->isVisible() && widget->objectName().startsWith("m_"_s))
+                QVERIFY2(widget->fontMetrics().fontDpi() == 96, qPrintable(widget->objectName()));
+            if (const auto* box = qobject_cast<const CustomComboBox1*>(widget))
+                for (int item = 0; item < box->count(); ++item)
+                    QVERIFY2(showsWhole(box, item),
+                             qPrintable(box->objectName() + u' ' + box->itemText(item)));
+            const auto* edit = qobject_cast<const QLineEdit*>(widget);
+            if (edit && !edit->text().isEmpty())
+                QVERIFY2(edit->fontMetrics().horizontalAdvance(edit->text()) < edit->width() - 4,
+                         qPrintable(edit->objectName() + u' ' + edit->text()));
+        }
     }
 
     void tabWalksThePage_data() { everyPage_data(); }
