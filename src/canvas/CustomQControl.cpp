@@ -4,6 +4,10 @@
 #include "widgets/look.h"
 
 #include <QMouseEvent>
+#include <QPainterPath>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include <utility>
@@ -43,6 +47,22 @@ const ComboSheets& sheets()
 {
     static const ComboSheets all;
     return all;
+}
+
+// The arrow from its middle, pixels: half of its width, and of its height.
+constexpr qreal arrowAcross = 3.25;
+constexpr qreal arrowDown = 1.625;
+constexpr qreal arrowStroke = 1.75;
+
+/// The sheet's picture of an arrow as strokes, which stay sharp at every zoom.
+void drawArrow(QPainter& painter, const QPointF& middle, const QColor& color)
+{
+    QPainterPath arrow(middle + QPointF(-arrowAcross, -arrowDown));
+    arrow.lineTo(middle + QPointF(0, arrowDown));
+    arrow.lineTo(middle + QPointF(arrowAcross, -arrowDown));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(arrow, QPen(color, arrowStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 } // namespace
@@ -128,4 +148,40 @@ void CustomComboBox1::focusOutEvent(QFocusEvent* event)
 {
     appearance::setSheet(this, sheets().normal);
     QComboBox::focusOutEvent(event);
+}
+
+void CustomComboBox1::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.subControls &= ~QStyle::SubControls(QStyle::SC_ComboBoxArrow);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const auto part = [&](QStyle::SubControl which) {
+        return QRectF(style()->subControlRect(QStyle::CC_ComboBox, &option, which, this));
+    };
+    const QPointF middle = part(QStyle::SC_ComboBoxArrow).center();
+    drawArrow(painter, middle, isEnabled() ? QColor(0, 32, 82) : QColor(Qt::gray));
+    // The style ends the text at the arrow's column, of which the arrow takes less than half.
+    const qreal arrowLeft = middle.x() - arrowAcross - arrowStroke / 2;
+    option.rect.setRight(option.rect.right() + int(arrowLeft - part(QStyle::SC_ComboBoxEditField).right()));
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void RoundRadioButton::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    // The sheet's ring is a square with round corners: here it is the disc of a checked button with a hole.
+    option.state.setFlag(QStyle::State_On, true);
+    option.state.setFlag(QStyle::State_Off, false);
+    painter.drawControl(QStyle::CE_RadioButton, option);
+    if (isChecked())
+        return;
+    const QRectF disc = style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().button());
+    painter.drawEllipse(disc.adjusted(1, 1, -1, -1));
 }

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QListView>
+#include <QRadioButton>
 
 /// The popup list of a combo box, in the combo's font; it tells when it takes and loses the keyboard focus.
 class CustomListView : public QListView
@@ -27,7 +28,8 @@ private:
     bool m_focused = false;
 };
 
-/// The program's own combo box: a blue outline, no mouse wheel, and a list view that reports its focus.
+/// The program's own combo box: a blue outline, no mouse wheel, and a list view that reports its focus. Its
+/// text has the room up to the arrow, which is grey in a greyed box.
 class CustomComboBox1 : public QComboBox
 {
     Q_OBJECT
@@ -54,8 +56,19 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     CustomListView* m_tempListView;
     int m_offItem = -1;
+};
+
+/// A radio button of the trees, which is round at every zoom, checked or not.
+class RoundRadioButton : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };

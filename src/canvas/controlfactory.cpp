@@ -186,7 +186,7 @@ QLabel* ControlFactory::NewQLabelInScenePos(const QString& text, int x, int y, i
 
 QRadioButton* ControlFactory::NewRadioButtonInScenePos(int x, int y)
 {
-    auto* radio = new QRadioButton(this);
+    auto* radio = new RoundRadioButton(this);
     radio->setStyleSheet(appearance::radioSheet("rgb(0, 176, 240)", "spacing: 0px; spacing: 0px;"));
     embed(radio, x, y);
     return radio;

@@ -1,16 +1,21 @@
 #include "canvas/pingraphicsview.h"
 
 #include "canvas/taborder.h"
+#include "widgets/focusframe.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QWheelEvent>
+
+#include <optional>
+#include <utility>
 
 namespace {
 // Scale of the view, picture pixels to screen pixels; both ends are allowed.
@@ -21,6 +26,23 @@ constexpr qreal keyStep = 2.0;
 constexpr qreal focusFrame = 2.0;
 // Between a control that the keyboard brings into sight and the edge of the view, screen pixels.
 constexpr int sightMargin = 40;
+
+/// The step of an arrow key, scene coordinates; nothing for any other key.
+std::optional<QPointF> panOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return QPointF(-keyStep, 0);
+    case Qt::Key_Right:
+        return QPointF(keyStep, 0);
+    case Qt::Key_Up:
+        return QPointF(0, -keyStep);
+    case Qt::Key_Down:
+        return QPointF(0, keyStep);
+    default:
+        return std::nullopt;
+    }
+}
 } // namespace
 
 PinGraphicsView::PinGraphicsView(QWidget* parent) : QGraphicsView(parent)
@@ -91,6 +113,9 @@ void PinGraphicsView::mousePressEvent(QMouseEvent* event)
         m_lastMousePos = event->pos();
     }
     QGraphicsView::mousePressEvent(event);
+    // On the control that has the focus already, too.
+    if (std::exchange(m_byKeyboard, false))
+        viewport()->update();
 }
 
 void PinGraphicsView::mouseMoveEvent(QMouseEvent* event)
@@ -129,11 +154,17 @@ void PinGraphicsView::wheelEvent(QWheelEvent* event)
 
 void PinGraphicsView::keyPressEvent(QKeyEvent* event)
 {
-    // What has the focus, an open list too, gets the key first, and the picture what is left.
-    const bool offered = scene() && scene()->focusItem() && isInteractive();
+    // What has the focus gets the key first, and the picture what is left. No control has a use for the keys
+    // that zoom.
+    const int key = event->key();
+    const bool offered = scene() && scene()->focusItem() && isInteractive() && !isForThePicture(event);
+    if (zoomByKey(key)) {
+        event->accept();
+        return;
+    }
     if (offered)
         QCoreApplication::sendEvent(scene(), event);
-    if ((offered && event->isAccepted()) || takeKey(event->key()))
+    if ((offered && (event->isAccepted() || stepInGroup(key))) || panByKey(key))
         event->accept();
     else if (offered)
         QAbstractScrollArea::keyPressEvent(event);
@@ -141,34 +172,35 @@ void PinGraphicsView::keyPressEvent(QKeyEvent* event)
         QGraphicsView::keyPressEvent(event);
 }
 
-bool PinGraphicsView::takeKey(int key)
+bool PinGraphicsView::isForThePicture(const QKeyEvent* event) const
 {
-    const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
-    const bool arrow = forward || key == Qt::Key_Left || key == Qt::Key_Up;
-    if (arrow && m_tabOrder && m_tabOrder->moveInGroup(forward))
-        return true;
-    switch (key) {
-    case Qt::Key_Plus:
-        zoomIn();
-        return true;
-    case Qt::Key_Minus:
-        zoomOut();
-        return true;
-    case Qt::Key_Left:
-        translate(QPointF(-keyStep, 0));
-        return true;
-    case Qt::Key_Right:
-        translate(QPointF(keyStep, 0));
-        return true;
-    case Qt::Key_Up:
-        translate(QPointF(0, -keyStep));
-        return true;
-    case Qt::Key_Down:
-        translate(QPointF(0, keyStep));
-        return true;
-    default:
+    // With Alt they open a list.
+    if (!m_tabOrder || m_byKeyboard || (event->modifiers() & ~Qt::KeypadModifier) || !panOf(event->key()))
         return false;
-    }
+    const QWidget* control = m_tabOrder->current();
+    return control && !m_tabOrder->listIsOpen() && !qobject_cast<const QLineEdit*>(control);
+}
+
+bool PinGraphicsView::zoomByKey(int key)
+{
+    if (key == Qt::Key_Plus)
+        zoomIn();
+    else if (key == Qt::Key_Minus)
+        zoomOut();
+    return key == Qt::Key_Plus || key == Qt::Key_Minus;
+}
+
+bool PinGraphicsView::stepInGroup(int key)
+{
+    return m_tabOrder && panOf(key) && m_tabOrder->moveInGroup(key == Qt::Key_Right || key == Qt::Key_Down);
+}
+
+bool PinGraphicsView::panByKey(int key)
+{
+    const std::optional<QPointF> pan = panOf(key);
+    if (pan)
+        translate(*pan);
+    return pan.has_value();
 }
 
 void PinGraphicsView::setTabOrder(TabOrder* order)
@@ -191,6 +223,8 @@ void PinGraphicsView::followFocus(QGraphicsItem* now, QGraphicsItem* before, Qt:
                 m_tabOrder->restore();
         });
     const QWidget* control = m_tabOrder->current();
+    if (control)
+        m_byKeyboard = isFocusByKeyboard(reason, m_byKeyboard);
     if (control && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
         ensureVisible(control->window()->graphicsProxyWidget(), sightMargin, sightMargin);
 }
@@ -225,7 +259,7 @@ void PinGraphicsView::focusInEvent(QFocusEvent* event)
 void PinGraphicsView::drawForeground(QPainter* painter, const QRectF& rect)
 {
     QGraphicsView::drawForeground(painter, rect);
-    const QWidget* control = m_tabOrder && hasFocus() ? m_tabOrder->current() : nullptr;
+    const QWidget* control = m_tabOrder && m_byKeyboard && hasFocus() ? m_tabOrder->current() : nullptr;
     if (!control)
         return;
     const QRectF place = control->window()->graphicsProxyWidget()->sceneBoundingRect();

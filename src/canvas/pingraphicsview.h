@@ -7,8 +7,9 @@ class QGraphicsPixmapItem;
 class TabOrder;
 
 /// A view that zooms in small steps between 0.2 and 5.0 and pans by dragging the background picture or by the
-/// arrow keys. A control that has the focus gets the keys first; Tab walks from control to control, and the
-/// view frames the one that has the focus. It holds no clock logic.
+/// arrow keys. A control that has the focus gets the keys first, but for those that zoom, and for the arrows if
+/// it was clicked and is no text; Tab walks from control to control, and the view frames the one to which the
+/// keyboard led. It holds no clock logic.
 class PinGraphicsView : public QGraphicsView
 {
     Q_OBJECT
@@ -53,8 +54,11 @@ protected:
     void drawForeground(QPainter* painter, const QRectF& rect) override;
 
 private:
-    /// Zooms, pans, or steps in a group of radio buttons; false if the key means nothing to the view.
-    bool takeKey(int key);
+    bool zoomByKey(int key);
+    /// Whether an arrow key pans without being offered to the control that has the focus.
+    bool isForThePicture(const QKeyEvent* event) const;
+    bool stepInGroup(int key);
+    bool panByKey(int key);
     void followFocus(QGraphicsItem* now, QGraphicsItem* before, Qt::FocusReason reason);
     /// A combo box keeps the wheel for itself, with Ctrl too.
     bool isComboAt(QPoint pos) const;
@@ -68,4 +72,6 @@ private:
     bool m_focusInControl_Flag = false;
     QGraphicsPixmapItem* m_pixmapItem = nullptr;
     TabOrder* m_tabOrder = nullptr;
+    /// How the focus came to the control that has it.
+    bool m_byKeyboard = true;
 };

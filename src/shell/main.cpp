@@ -21,6 +21,7 @@ int main(int argc, char* argv[])
 
     QApplication application(argc, argv);
     look::apply();
+    look::fixResolution();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/ZN64_tool_CRM.ico.ico")));
     installFurtherTables(language);
     if (loaded)

@@ -20,14 +20,14 @@ protected:
     }
 };
 
-/// A window that comes to the front, or a list that closes, gives the focus back as it was.
-bool givesBack(Qt::FocusReason reason)
-{
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-           reason == Qt::MenuBarFocusReason;
-}
-
 } // namespace
+
+bool isFocusByKeyboard(Qt::FocusReason reason, bool before)
+{
+    const bool givesBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+                           reason == Qt::MenuBarFocusReason;
+    return givesBack ? before : reason != Qt::MouseFocusReason;
+}
 
 FocusFrame::FocusFrame(QWidget* window) : QObject(window), m_frame(new DarkFrame(window)) {}
 
@@ -54,9 +54,7 @@ void FocusFrame::update()
 bool FocusFrame::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (!givesBack(reason))
-            m_byKeyboard = reason != Qt::MouseFocusReason;
+        m_byKeyboard = isFocusByKeyboard(static_cast<QFocusEvent*>(event)->reason(), m_byKeyboard);
         show(watched);
     } else if (event->type() == QEvent::FocusOut) {
         show(nullptr);

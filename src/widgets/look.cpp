@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QEvent>
+#include <QFontMetrics>
 #include <QPalette>
 #include <QPointer>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace {
 
@@ -51,6 +54,34 @@ QPalette lightPalette()
     return palette;
 }
 
+/// The resolution for which all sizes are told, dots per inch.
+constexpr int resolution = 96;
+
+/// Makes a point as many pixels in every widget as it is at that resolution. The toolkit's own mode for this
+/// reaches the styles only: on X11 widgets ask their screen, but for those that are told otherwise.
+class FixedResolution : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Polish && watched->isWidgetType())
+            settle(static_cast<QWidget*>(watched));
+        return false;
+    }
+
+private:
+    /// A window speaks for all that it holds, but for what has taken its font before it came there.
+    static void settle(QWidget* widget)
+    {
+        if (!widget->isWindow() && widget->fontMetrics().fontDpi() == resolution)
+            return;
+        widget->setProperty("_q_customDpiX", resolution);
+        widget->setProperty("_q_customDpiY", resolution);
+    }
+};
+
 } // namespace
 
 void look::apply()
@@ -59,6 +90,12 @@ void look::apply()
     // pictures of the trees with this style's sizes, too.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(lightPalette());
+}
+
+void look::fixResolution()
+{
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    qApp->installEventFilter(new FixedResolution(qApp));
 }
 
 QStyle* look::plainStyle()

@@ -12,6 +12,10 @@ namespace look {
 /// first widget.
 void apply();
 
+/// Makes a point of type the same pixels at every font resolution, since the trees are drawn in pixels. Scale
+/// factors stay. To be called behind apply() and before the first widget.
+void fixResolution();
+
 /// A style that paints the grounds of buttons and combos in the plain colour of their sheet. One object
 /// serves all widgets and belongs to the application, which must exist.
 QStyle* plainStyle();

@@ -1,7 +1,10 @@
 #include "formfixture.h"
 
+#include "canvas/CustomQControl.h"
 #include "model/seriestraits.h"
 #include "pages/ClockTreePage.h"
+#include "shell/MCUSelect_Form.h"
+#include "widgets/look.h"
 
 #include <QAccessible>
 #include <QButtonGroup>
@@ -76,6 +79,14 @@ struct Keyboard : FormFixture
         return kind && control->isEnabled() && control->isVisible();
     }
 
+    bool isFramed(const QWidget* control) const
+    {
+        const QRectF place = control->window()->graphicsProxyWidget()->sceneBoundingRect();
+        const QPoint above(view()->mapFromScene(QPointF(place.center().x(), place.top() - 2)));
+        const QImage shot = view()->viewport()->grab(QRect(above, QSize(1, 1))).toImage();
+        return shot.pixelColor(0, 0) == QColor(0, 32, 82);
+    }
+
     bool isInSight(const QWidget* control) const
     {
         const QGraphicsItem* item = control->window()->graphicsProxyWidget();
@@ -83,6 +94,20 @@ struct Keyboard : FormFixture
             view()->mapFromScene(item->sceneBoundingRect()).boundingRect());
     }
 };
+
+/// Whether the box shows its item as one with room to spare does, to the left of its arrow.
+bool showsWhole(const CustomComboBox1* box, int item)
+{
+    constexpr int arrowColumn = 16;
+    const auto seen = [&](int width) {
+        CustomComboBox1 shown;
+        shown.setFont(box->font());
+        shown.addItem(box->itemText(item));
+        shown.setFixedSize(width, 25);
+        return shown.grab(QRect(2, 0, box->width() - arrowColumn - 2, 25)).toImage();
+    };
+    return seen(box->width()) == seen(box->width() + 60);
+}
 
 QObject* stopOf(QWidget* control)
 {
@@ -103,6 +128,37 @@ private slots:
         QTest::addColumn<int>("series");
         for (const SeriesTraits& traits : seriesList())
             QTest::newRow(traits.word) << int(traits.series);
+    }
+
+    void initTestCase()
+    {
+        look::apply();
+        look::fixResolution();
+    }
+
+    /// Also run with another font resolution.
+    void nothingIsCut_data() { everyPage_data(); }
+    void nothingIsCut()
+    {
+        QFETCH(int, series);
+        Keyboard keyboard{ZN64MCUSERIALS(series)};
+        MCUSelect_Form dialog(&keyboard.form);
+        dialog.show();
+        QCoreApplication::processEvents();
+        const QList<QWidget*> all =
+            keyboard.form.findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
+        for (const QWidget* widget : all) {
+            if (widget->isVisible() && widget->objectName().startsWith("m_"_s))
+                QVERIFY2(widget->fontMetrics().fontDpi() == 96, qPrintable(widget->objectName()));
+            if (const auto* box = qobject_cast<const CustomComboBox1*>(widget))
+                for (int item = 0; item < box->count(); ++item)
+                    QVERIFY2(showsWhole(box, item),
+                             qPrintable(box->objectName() + u' ' + box->itemText(item)));
+            const auto* edit = qobject_cast<const QLineEdit*>(widget);
+            if (edit && !edit->text().isEmpty())
+                QVERIFY2(edit->fontMetrics().horizontalAdvance(edit->text()) < edit->width() - 4,
+                         qPrintable(edit->objectName() + u' ' + edit->text()));
+        }
     }
 
     void tabWalksThePage_data() { everyPage_data(); }
@@ -221,6 +277,57 @@ private slots:
         QCOMPARE(keyboard.focusName(), "m_apb1div_ComboBox"_s);
     }
 
+    /// What a click led to leaves the arrows to the picture, but for a text; nothing takes the keys that zoom.
+    void arrowsAfterAClick_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("panned");
+        QTest::newRow("box") << "m_apb1div_ComboBox"_s << int(Qt::Key_Down) << true;
+        QTest::newRow("button") << "m_sclkselect_pll_RadioButton"_s << int(Qt::Key_Down) << true;
+        QTest::newRow("text") << "m_hext_lineEdit"_s << int(Qt::Key_Left) << false;
+    }
+    void arrowsAfterAClick()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, key);
+        Keyboard keyboard(ZN64G125);
+        QGraphicsView* view = keyboard.view();
+        auto* control = keyboard.control(qPrintable(name));
+        const auto panned = [&](int key) {
+            const QPointF corner = view->mapToScene(0, 0);
+            keyboard.press(key);
+            return view->mapToScene(0, 0) != corner;
+        };
+        const auto click = [&] {
+            const QGraphicsItem* item = control->window()->graphicsProxyWidget();
+            QCoreApplication::processEvents();
+            view->ensureVisible(item);
+            const QPoint place = view->mapFromScene(item->sceneBoundingRect().center());
+            QTest::mouseClick(keyboard.form.windowHandle(), Qt::LeftButton, {},
+                              view->viewport()->mapTo(&keyboard.form, place));
+        };
+        // By mouse, also to the control to which the keyboard had led.
+        for (bool byKeyboardBefore : {false, true}) {
+            if (byKeyboardBefore)
+                keyboard.goTo(control);
+            click();
+            if (auto* combo = qobject_cast<QComboBox*>(control)) {
+                QVERIFY(!panned(Qt::Key_Up)); // the list is open
+                keyboard.press(Qt::Key_Return);
+                QTRY_VERIFY(!combo->view()->isVisible());
+            }
+            QTRY_COMPARE(keyboard.focusName(), name);
+            QTEST(panned(key), "panned");
+            QVERIFY(!keyboard.isFramed(control));
+        }
+        const double scale = view->transform().m11();
+        keyboard.press(Qt::Key_Plus);
+        QVERIFY(view->transform().m11() > scale);
+        keyboard.press(Qt::Key_Tab);
+        QVERIFY(keyboard.isFramed(keyboard.focus()));
+    }
+
     // A control that is greyed while it has the focus passes it on; one that has it no more keeps out.
     void greyedControls()
     {
@@ -251,16 +358,10 @@ private slots:
     {
         Keyboard keyboard(ZN64G110);
         auto* combo = keyboard.control("m_ahbdiv_ComboBox");
-        const auto framed = [&] {
-            const QRectF place = combo->window()->graphicsProxyWidget()->sceneBoundingRect();
-            const QPoint above(keyboard.view()->mapFromScene(place.center().x(), place.top() - 2));
-            const QImage shot = keyboard.view()->viewport()->grab(QRect(above, QSize(1, 1))).toImage();
-            return shot.pixelColor(0, 0) == QColor(0, 32, 82);
-        };
         keyboard.goTo(combo);
-        QVERIFY(framed());
+        QVERIFY(keyboard.isFramed(combo));
         keyboard.press(Qt::Key_Tab);
-        QVERIFY(!framed());
+        QVERIFY(!keyboard.isFramed(combo));
     }
 
     void menuTitleIsFramed()

@@ -31,6 +31,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
     QApplication application(argc, argv);
     look::apply();
+    look::fixResolution();
     QCommandLineParser arguments;
     arguments.addHelpOption();
     const QCommandLineOption manual(
