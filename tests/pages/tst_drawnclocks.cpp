@@ -272,7 +272,7 @@ void TestDrawnClocks::pointer()
     QVERIFY(colorAt(beside) != ground);
     QHelpEvent help(QEvent::ToolTip, i2s, page.viewport()->mapToGlobal(i2s));
     QApplication::sendEvent(page.viewport(), &help);
-    QCOMPARE(QToolTip::text(), QStringLiteral("sclk 144.000 MHz = 8.000000 MHz / 1 * 144 / 8"));
+    QCOMPARE(QToolTip::text(), QStringLiteral("sclk 192.000 MHz = 8.000000 MHz / 1 * 144 / 6"));
     moveTo(flag);
     QVERIFY(colorAt(beside) != ground);
     moveTo(page.middleOf(page.find(QStringLiteral("ahbdiv_ComboBox"))));
