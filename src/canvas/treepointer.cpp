@@ -81,5 +81,6 @@ void TreePointer::tellAt(const QPoint& pos, const QPoint& global)
         sentences = m_guide.tellSignal(net);
     else if (control)
         sentences = m_guide.tellControl(control);
-    QToolTip::showText(global, sentences.join(QLatin1Char('\n')), m_view.viewport());
+    // Of no widget: the sheet of the view would take its frame away.
+    QToolTip::showText(global, sentences.join(QLatin1Char('\n')));
 }

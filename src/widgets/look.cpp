@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QToolTip>
 #include <QWidget>
 
 namespace {
@@ -54,6 +55,8 @@ QPalette lightPalette()
     return palette;
 }
 
+constexpr int toolTipSize = 10; // points
+
 /// The resolution for which all sizes are told, dots per inch.
 constexpr int resolution = 96;
 
@@ -90,6 +93,8 @@ void look::apply()
     // pictures of the trees with this style's sizes, too.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(lightPalette());
+    QToolTip::setPalette(lightPalette());
+    QToolTip::setFont(QFont(QStringLiteral("Arial"), toolTipSize));
 }
 
 void look::fixResolution()
