@@ -1,11 +1,14 @@
 #include "pages/ClockTreePage.h"
 
+#include "canvas/appearance.h"
 #include "model/seriestraits.h"
 #include "pages/blocks/FlexiblePllBlock.h"
 #include "pages/blocks/LowSpeedBlock.h"
 #include "pages/blocks/OutputsBlock.h"
 #include "pages/blocks/PllSourceBlock.h"
+#include "pages/layout/spokennames.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
@@ -26,11 +29,7 @@ void ClockTreePage::build()
     createBlocks();
     NewAllControl();
     orderSettings();
-    view()->setAccessibleName(QStringLiteral("clock tree"));
-    view()->setAccessibleDescription(
-        QStringLiteral("The clock tree of the %1: oscillators on the left, then the PLL, "
-                       "the system clock, dividers, and the outputs on the right")
-            .arg(seriesName(model().series())));
+    speak();
     InitAllControl();
     ControlsConnectSlots();
 }
@@ -49,6 +48,24 @@ void ClockTreePage::ControlsConnectSlots()
 {
     for (const auto& block : m_blocks)
         block->ControlsConnectSlots();
+}
+
+void ClockTreePage::speak()
+{
+    view()->setAccessibleName(QCoreApplication::translate("ClockTree", "clock tree"));
+    view()->setAccessibleDescription(
+        QCoreApplication::translate("ClockTree", "The clock tree of the %1: oscillators on the left, then the "
+                                                 "PLL, the system clock, dividers, and the outputs on the right")
+            .arg(seriesName(model().series())));
+    for (auto each = m_spoken.cbegin(); each != m_spoken.cend(); ++each)
+        appearance::setSpoken(each.key(), spokenInLanguage(each.value()));
+}
+
+void ClockTreePage::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        speak();
+    ZN64MCUPLL::changeEvent(event);
 }
 
 void ClockTreePage::mousePressEvent(QMouseEvent* event)

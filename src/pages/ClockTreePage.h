@@ -65,6 +65,7 @@ protected:
     void build();
     /// Closes the open list of peripherals: the press was on the bare picture.
     void mousePressEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     // What the blocks ask.
@@ -132,6 +133,8 @@ private:
     void createBlocks();
     void NewAllControl();
     void ControlsConnectSlots();
+    /// Tells assistive tools the names, in the language of the program.
+    void speak();
     const Control& take(const QString& name, ControlType kind);
     /// Names the control for the program, and for the ear where it can be used.
     template <class Widget>
@@ -163,6 +166,7 @@ private:
     QStringList m_fileOrder;
     QStringList m_readingOrder;
     QSet<QString> m_takenPlaces;
+    QHash<QWidget*, QString> m_spoken; ///< the names of what a person can use, before their translation
     QVector<QWidget*> m_made; ///< what a person can use of the controls that the running routine has made
     bool m_takingDesign = false;
 
