@@ -1,5 +1,6 @@
 #include "canvas/controlfactory.h"
 
+#include "canvas/accessibletree.h"
 #include "canvas/appearance.h"
 #include "widgets/look.h"
 
@@ -209,9 +210,12 @@ QLineEdit* ControlFactory::New_toperipheralControl(int x, int y, int)
 
 QPushButton* ControlFactory::New_toperipheralListButton(int x, int y, int)
 {
+    auto* button = new QPushButton(this);
+    // First of all: what assistive tools see of it is settled when it gets its text.
+    accessibletree::tellListOpen(button, false);
+    button->setIcon(QIcon(QStringLiteral(":/image/btn_right_slider_hover.png")));
     // The tables of translations know it by the base of the pages.
-    auto* button = new QPushButton(QIcon(QStringLiteral(":/image/btn_right_slider_hover.png")),
-                                   QCoreApplication::translate("ZN64MCUPLL", "List"), this);
+    button->setText(QCoreApplication::translate("ZN64MCUPLL", "List"));
     button->setFont(arial(10, 75));
     button->setStyleSheet(QStringLiteral("border-style: none;"));
     embed(button, x, y);

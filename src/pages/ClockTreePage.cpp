@@ -8,6 +8,7 @@
 #include "pages/blocks/PllSourceBlock.h"
 #include "pages/description/signalnames.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
@@ -20,6 +21,7 @@ ClockTreePage::ClockTreePage(const PageDescription& description, QWidget* parent
 // The blocks go before the controls that they point to.
 ClockTreePage::~ClockTreePage()
 {
+    QAccessible::removeActivationObserver(this);
     m_blocks.clear();
 }
 
@@ -29,14 +31,11 @@ void ClockTreePage::build()
     NewAllControl();
     treeItem().follow(findChildren<QWidget*>(), takenUp(m_description));
     orderSettings();
-    view()->setAccessibleName(QStringLiteral("clock tree"));
-    view()->setAccessibleDescription(
-        QStringLiteral("The clock tree of the %1: oscillators on the left, then the PLL, "
-                       "the system clock, dividers, and the outputs on the right")
-            .arg(seriesName(model().series())));
+    speak();
     InitAllControl();
     ControlsConnectSlots();
     m_pointer = std::make_unique<TreePointer>(*view(), treeItem(), *this);
+    listenForListeners();
 }
 
 void ClockTreePage::InitAllControl()
@@ -55,6 +54,13 @@ void ClockTreePage::ControlsConnectSlots()
         block->ControlsConnectSlots();
 }
 
+void ClockTreePage::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        speak();
+    ZN64MCUPLL::changeEvent(event);
+}
+
 void ClockTreePage::mousePressEvent(QMouseEvent* event)
 {
     m_outputs->closeLists();
@@ -65,6 +71,7 @@ void ClockTreePage::UI_Display()
 {
     for (const auto& block : m_blocks)
         block->UI_Display();
+    tellLater();
 }
 
 void ClockTreePage::UpdateCalculateResult()
@@ -82,6 +89,7 @@ void ClockTreePage::UpdateResultControls()
         return;
     for (const auto& block : m_blocks)
         block->UpdateResultControls();
+    tellLater();
 }
 
 void ClockTreePage::UpdateParam_From_ResultCLK()

@@ -5,14 +5,17 @@
 #include "pages/blocks/ClockTree.h"
 #include "pages/description/settingrows.h"
 
+#include <QAccessible>
 #include <QHash>
 #include <QSet>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
 
 class AdcBlock;
 class ClockBlock;
+class ClockSignals;
 class HickRouteBlock;
 class HighSpeedBlock;
 class LowSpeedBlock;
@@ -27,7 +30,10 @@ class UsbPhyBlock;
 
 /// A series page: blocks put together by a description. The class of a series calls build() in its
 /// constructor, when texts already translate in its own context.
-class ClockTreePage : public ZN64MCUPLL, public ClockTree, public TreeGuide
+class ClockTreePage : public ZN64MCUPLL,
+                      public ClockTree,
+                      public TreeGuide,
+                      private QAccessible::ActivationObserver
 {
     Q_OBJECT
 
@@ -73,6 +79,7 @@ protected:
     void build();
     /// Closes the open list of peripherals: the press was on the bare picture.
     void mousePressEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     // What the blocks ask.
@@ -140,6 +147,16 @@ private:
     void createBlocks();
     void NewAllControl();
     void ControlsConnectSlots();
+    /// Tells assistive tools the names, in the language of the program.
+    void speak();
+    QString spokenName(const QWidget* control) const;
+    QStringList sentencesOn(const QWidget* control, const ClockSignals& known) const;
+    /// The descriptions of the controls follow the design while an assistive tool listens, which costs too
+    /// much when none does.
+    void listenForListeners();
+    void tellLater();
+    void tell();
+    void accessibilityActiveChanged(bool active) override;
     const Control& take(const QString& name, ControlType kind);
     /// Names the control for the program, and for the ear where it can be used.
     template <class Widget>
@@ -174,8 +191,11 @@ private:
     QStringList m_fileOrder;
     QStringList m_readingOrder;
     QSet<QString> m_takenPlaces;
+    QHash<QWidget*, QString> m_spoken; ///< the names of what a person can use, before their translation
     QVector<QWidget*> m_made; ///< what a person can use of the controls that the running routine has made
     bool m_takingDesign = false;
+    QTimer m_telling;
+    bool m_heard = false; ///< an assistive tool listens
     std::unique_ptr<TreePointer> m_pointer;
 
     LowSpeedBlock* m_lowSpeed = nullptr;

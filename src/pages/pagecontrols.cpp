@@ -1,6 +1,5 @@
 #include "pages/ClockTreePage.h"
 
-#include "canvas/appearance.h"
 #include "widgets/named.h"
 
 #include <algorithm>
@@ -26,7 +25,7 @@ const Control& ClockTreePage::take(const QString& name, ControlType kind)
 template <class Widget>
 Widget* ClockTreePage::identified(const QString& name, const QString& spoken, Widget* control)
 {
-    appearance::setSpoken(control, spoken);
+    m_spoken.insert(control, spoken);
     m_made += control;
     return named(name, control);
 }

@@ -1,7 +1,12 @@
 #include "pages/ClockTreePage.h"
 
+#include "canvas/appearance.h"
+#include "model/seriestraits.h"
 #include "pages/blocks/ClockBlock.h"
 #include "pages/description/clocksignals.h"
+#include "pages/layout/spokennames.h"
+
+#include <QCoreApplication>
 
 // What is told of signals and controls to those who point at them, and of controls to those who hear them.
 
@@ -59,24 +64,86 @@ int ClockTreePage::netOf(const QWidget* control) const
     return -1;
 }
 
-QStringList ClockTreePage::tellControl(const QWidget* control) const
+QString ClockTreePage::spokenName(const QWidget* control) const
 {
-    QStringList sentences;
+    const QString name = control->objectName();
+    if (!qobject_cast<const QLabel*>(control))
+        return control->accessibleName();
+    return m_description.places.has(name) ? spokenInLanguage(m_description.places.at(name).spoken)
+                                          : QString();
+}
+
+QStringList ClockTreePage::sentencesOn(const QWidget* control, const ClockSignals& known) const
+{
     std::optional<Remarks> remarks;
     for (const auto& block : m_blocks)
         if (!remarks)
             remarks = block->remarksOn(control);
-    const bool label = qobject_cast<const QLabel*>(control);
-    if (label && !remarks)
+    if (qobject_cast<const QLabel*>(control) && !remarks)
         return {};
-    const QString name = label ? control->accessibleDescription() : control->accessibleName();
-    if (!name.isEmpty())
-        sentences << name;
+    QStringList sentences(spokenName(control));
     if (!control->isEnabled() && !(remarks && remarks->shown))
         return sentences << remarks::notInUse();
     if (remarks)
         sentences += remarks::sentences(*remarks, normalMode());
     if (const int net = netOf(control); net >= 0)
-        sentences += tellSignal(net);
+        sentences << sentence(known.at(net));
+    sentences.removeAll(QString());
     return sentences;
+}
+
+QStringList ClockTreePage::tellControl(const QWidget* control) const
+{
+    return sentencesOn(control, State(treeItem(), *this).known);
+}
+
+void ClockTreePage::speak()
+{
+    view()->setAccessibleName(QCoreApplication::translate("ClockTree", "clock tree"));
+    view()->setAccessibleDescription(
+        QCoreApplication::translate("ClockTree",
+                                    "The clock tree of the %1: oscillators on the left, then the "
+                                    "PLL, the system clock, dividers, and the outputs on the right")
+            .arg(seriesName(model().series())));
+    for (auto each = m_spoken.cbegin(); each != m_spoken.cend(); ++each)
+        appearance::setSpoken(each.key(), spokenInLanguage(each.value()));
+    tellLater();
+}
+
+void ClockTreePage::listenForListeners()
+{
+    m_telling.setSingleShot(true);
+    connect(&m_telling, &QTimer::timeout, this, &ClockTreePage::tell);
+    for (auto each = m_spoken.cbegin(); each != m_spoken.cend(); ++each)
+        if (const auto* edit = qobject_cast<QLineEdit*>(each.key()); edit && !edit->isReadOnly())
+            connect(edit, &QLineEdit::textChanged, this, &ClockTreePage::tellLater);
+    QAccessible::installActivationObserver(this);
+    accessibilityActiveChanged(QAccessible::isActive());
+}
+
+void ClockTreePage::accessibilityActiveChanged(bool active)
+{
+    m_heard = active;
+    tellLater();
+}
+
+void ClockTreePage::tellLater()
+{
+    if (m_heard)
+        m_telling.start();
+}
+
+void ClockTreePage::tell()
+{
+    const State state(treeItem(), *this);
+    const auto describe = [&](QWidget* control) {
+        const QString text = sentencesOn(control, state.known).join(QLatin1String("; "));
+        if (control->accessibleDescription() != text)
+            control->setAccessibleDescription(text);
+    };
+    for (auto each = m_spoken.cbegin(); each != m_spoken.cend(); ++each)
+        describe(each.key());
+    for (const char* label : {"m_pllclk_Label", "m_usbclock_Label"})
+        if (auto* shown = findChild<QLabel*>(QLatin1String(label)))
+            describe(shown);
 }

@@ -1,3 +1,4 @@
+#include "canvas/accessibletree.h"
 #include "shell/formconfiguration.h"
 #include "widgets/look.h"
 
@@ -22,6 +23,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     look::apply();
     look::fixResolution();
+    accessibletree::install();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/ZN64_tool_CRM.ico.ico")));
     installFurtherTables(language);
     if (loaded)

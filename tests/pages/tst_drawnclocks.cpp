@@ -1,6 +1,7 @@
 #include "drawing.h"
 #include "pagefixture.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QObject>
 #include <QToolTip>
@@ -249,8 +250,12 @@ void TestDrawnClocks::sentences()
 {
     QFETCH(QStringList, fields);
     const PageFixture& page = resetPage(fields[0]);
+    // As if somebody listened.
+    QAccessible::setActive(true);
     page.take(fields[1]);
-    QCOMPARE(page.page->tellControl(page.find(fields[2])).join(QLatin1String("; ")), fields[3]);
+    const QWidget* control = page.find(fields[2]);
+    QCOMPARE(page.page->tellControl(control).join(QLatin1String("; ")), fields[3]);
+    QTRY_COMPARE(control->accessibleDescription(), fields[3]);
 }
 
 /// The signal below the pointer is lifted out of the picture with the flags of its name, and told of.

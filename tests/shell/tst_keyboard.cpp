@@ -1,6 +1,7 @@
 #include "formfixture.h"
 
 #include "canvas/CustomQControl.h"
+#include "canvas/accessibletree.h"
 #include "model/seriestraits.h"
 #include "pages/ClockTreePage.h"
 #include "shell/MCUSelect_Form.h"
@@ -134,6 +135,7 @@ private slots:
     {
         look::apply();
         look::fixResolution();
+        accessibletree::install();
     }
 
     /// Also run with another font resolution.
@@ -232,6 +234,53 @@ private slots:
         }
         QCOMPARE(names.value("hext, MHz"_s), QLatin1String(keyboard.page()->description().hextEdit));
         QVERIFY(keyboard.view()->accessibleDescription().contains(seriesName(ZN64MCUSERIALS(series))));
+    }
+
+    /// One window with one tree, which holds every control and label of the scene.
+    void oneTreeForTheEar_data() { everyPage_data(); }
+    void oneTreeForTheEar()
+    {
+        QFETCH(int, series);
+        Keyboard keyboard{ZN64MCUSERIALS(series)};
+        const QAccessibleInterface* program = QAccessible::queryAccessibleInterface(qApp);
+        QCOMPARE(program->childCount(), 1);
+        QAccessibleInterface* window = program->child(0);
+        QCOMPARE(window->object(), &keyboard.form);
+        QCOMPARE(window->role(), QAccessible::Window);
+        int trees = 0;
+        QSet<QObject*> met;
+        QVector<QAccessibleInterface*> open{window};
+        while (!open.isEmpty()) {
+            QAccessibleInterface* each = open.takeLast();
+            met += each->object();
+            trees += each->text(QAccessible::Name) == "clock tree"_s;
+            for (int i = 0; i < each->childCount(); ++i) {
+                QAccessibleInterface* child = each->child(i);
+                QVERIFY2(child->role() != QAccessible::Dialog && child->role() != QAccessible::Window,
+                         qPrintable(child->text(QAccessible::Name)));
+                QCOMPARE(child->parent(), each);
+                QCOMPARE(each->indexOfChild(child), i);
+                open += child;
+            }
+        }
+        QCOMPARE(trees, 1);
+        for (QWidget* control : keyboard.page()->findChildren<QWidget*>())
+            if (control->window()->graphicsProxyWidget() &&
+                (qobject_cast<QLabel*>(control) || control->objectName().startsWith("m_"_s)))
+                QVERIFY2(met.contains(control), qPrintable(control->objectName()));
+    }
+
+    void listButtonTellsWhetherItsListIsOpen()
+    {
+        Keyboard keyboard(ZN64G125);
+        auto* button = keyboard.control<QPushButton>("m_toapb1peripheral_List_Button");
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(button);
+        for (const bool open : {false, true, false}) {
+            QVERIFY(told->state().expandable);
+            QCOMPARE(bool(told->state().expanded), open);
+            QCOMPARE(bool(told->state().collapsed), !open);
+            told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        }
     }
 
     void keysGoToTheControlFirst()

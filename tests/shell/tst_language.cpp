@@ -49,6 +49,8 @@ private slots:
         QCOMPARE(program.design(), page.data());
         // A page keeps the texts that it was built with.
         QCOMPARE(list ? list->text() : QString(), pageText);
+        // What is said of its controls follows the language.
+        QCOMPARE(list ? list->accessibleName() : QString(), page ? "列表：apb1 外设, MHz"_s : QString());
 
         switchTo(program, "m_English_Action");
         QCOMPARE(marked(program), "English"_s);

@@ -1,6 +1,7 @@
 #include "pages/blocks/OutputsBlock.h"
 
 #include "canvas/ZN64MCUPLL.h"
+#include "canvas/accessibletree.h"
 #include "canvas/appearance.h"
 #include "pages/description/arithmetic.h"
 
@@ -53,6 +54,7 @@ std::optional<Remarks> OutputsBlock::remarksOn(const QWidget* control) const
 void OutputsBlock::showList(const List& list, bool open)
 {
     list.group->setVisible(open);
+    accessibletree::tellListOpen(list.button, open);
     list.button->setIcon(QIcon(open ? QStringLiteral(":/image/btn_down_slider_hover.png")
                                     : QStringLiteral(":/image/btn_right_slider_hover.png")));
 }
