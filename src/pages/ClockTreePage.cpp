@@ -54,8 +54,9 @@ void ClockTreePage::speak()
 {
     view()->setAccessibleName(QCoreApplication::translate("ClockTree", "clock tree"));
     view()->setAccessibleDescription(
-        QCoreApplication::translate("ClockTree", "The clock tree of the %1: oscillators on the left, then the "
-                                                 "PLL, the system clock, dividers, and the outputs on the right")
+        QCoreApplication::translate("ClockTree",
+                                    "The clock tree of the %1: oscillators on the left, then the "
+                                    "PLL, the system clock, dividers, and the outputs on the right")
             .arg(seriesName(model().series())));
     for (auto each = m_spoken.cbegin(); each != m_spoken.cend(); ++each)
         appearance::setSpoken(each.key(), spokenInLanguage(each.value()));
