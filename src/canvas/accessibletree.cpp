@@ -82,8 +82,7 @@ public:
     QAccessibleInterface* focusChild() const override
     {
         const QGraphicsScene* scene = static_cast<QGraphicsView*>(widget())->scene();
-        const auto* proxy =
-            qgraphicsitem_cast<QGraphicsProxyWidget*>(scene ? scene->focusItem() : nullptr);
+        const auto* proxy = qgraphicsitem_cast<QGraphicsProxyWidget*>(scene ? scene->focusItem() : nullptr);
         return proxy && proxy->widget() ? interfaceOf(proxy->widget()->focusWidget())
                                         : QAccessibleWidget::focusChild();
     }
@@ -92,7 +91,8 @@ private:
     QVector<QObject*> wrappers() const
     {
         QVector<QObject*> found;
-        const QObjectList all = widget()->parentWidget() ? widget()->parentWidget()->children() : QObjectList();
+        const QObjectList all =
+            widget()->parentWidget() ? widget()->parentWidget()->children() : QObjectList();
         std::copy_if(all.begin(), all.end(), std::back_inserter(found), isWrapper);
         return found;
     }

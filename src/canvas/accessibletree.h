@@ -2,8 +2,8 @@
 
 class QPushButton;
 
-/// What assistive tools see of a scene's controls. To the toolkit each is a window; to them all stand below one
-/// object, the view, in the window that holds it.
+/// What assistive tools see of a scene's controls. To the toolkit each is a window; to them all stand below
+/// one object, the view, in the window that holds it.
 namespace accessibletree {
 
 /// To be called once, behind the construction of the application and before its first widget.

@@ -7,9 +7,9 @@ class QGraphicsPixmapItem;
 class TabOrder;
 
 /// A view that zooms in small steps between 0.2 and 5.0 and pans by dragging the background picture or by the
-/// arrow keys. A control that has the focus gets the keys first, but for those that zoom, and for the arrows if
-/// it was clicked and is no text; Tab walks from control to control, and the view frames the one to which the
-/// keyboard led. It holds no clock logic.
+/// arrow keys. A control that has the focus gets the keys first, but for those that zoom, and for the arrows
+/// if it was clicked and is no text; Tab walks from control to control, and the view frames the one to which
+/// the keyboard led. It holds no clock logic.
 class PinGraphicsView : public QGraphicsView
 {
     Q_OBJECT

@@ -9,8 +9,9 @@
 
 class QWidget;
 
-/// Whether a focus counts as one that came by the keyboard: it did not come by a click. before is what counted
-/// so far, which stays when a window that comes to the front, or a list that closes, gives the focus back.
+/// Whether a focus counts as one that came by the keyboard: it did not come by a click. before is what
+/// counted so far, which stays when a window that comes to the front, or a list that closes, gives the focus
+/// back.
 bool isFocusByKeyboard(Qt::FocusReason reason, bool before);
 
 /// The dark frame that the trees draw round the control with the focus, for the controls of a window. It

@@ -183,6 +183,32 @@ private slots:
         QCOMPARE(m_combo->currentText(), "PA8"_s);
     }
 
+    void greyedComboIsGreyAllOver()
+    {
+        m_combo->setEnabledStatus(true);
+        QVERIFY(mostColorful(enlarged(m_combo)) > 50);
+        m_combo->setEnabledStatus(false);
+        QVERIFY(mostColorful(enlarged(m_combo)) < 10);
+    }
+
+    /// An unchecked button's ring is no larger than the disc of the checked one, and has a hole.
+    void buttonsAreRound()
+    {
+        const QImage ring = enlarged(m_radio);
+        m_radio->setChecked(true);
+        const QImage disc = enlarged(m_radio);
+        const QRgb ground = disc.pixel(0, 0);
+        QCOMPARE(ring.pixel(ring.rect().center()), ground);
+        QVERIFY(disc.pixel(disc.rect().center()) != ground);
+        int differ = 0;
+        for (int i = 0; i < disc.width() * disc.height(); ++i) {
+            const QPoint at(i % disc.width(), i / disc.width());
+            QVERIFY(disc.pixel(at) != ground || ring.pixel(at) == ground);
+            differ += ring.pixel(at) != ground;
+        }
+        QVERIFY(differ > 4 * disc.width());
+    }
+
     void wrapperFollowsItsControl()
     {
         const QGraphicsProxyWidget* item = ZN64MCUPLL::proxyOf(m_label);
@@ -193,6 +219,25 @@ private slots:
     }
 
 private:
+    /// The control as it is seen at 400 %.
+    static QImage enlarged(QWidget* control)
+    {
+        QImage seen(control->size() * 4, QImage::Format_RGB32);
+        seen.setDevicePixelRatio(4);
+        control->render(&seen);
+        return seen;
+    }
+
+    static int mostColorful(const QImage& image)
+    {
+        int most = 0;
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const QColor color = image.pixelColor(i % image.width(), i / image.width());
+            most = qMax(most, qAbs(color.red() - color.blue()));
+        }
+        return most;
+    }
+
     static void zooms(bool corners)
     {
         QTest::addColumn<float>("zoom");

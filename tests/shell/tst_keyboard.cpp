@@ -147,8 +147,7 @@ private slots:
         MCUSelect_Form dialog(&keyboard.form);
         dialog.show();
         QCoreApplication::processEvents();
-        const QList<QWidget*> all =
-            keyboard.form.findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
+        const QList<QWidget*> all = keyboard.form.findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
         for (const QWidget* widget : all) {
             if (widget->isVisible() && widget->objectName().startsWith("m_"_s))
                 QVERIFY2(widget->fontMetrics().fontDpi() == 96, qPrintable(widget->objectName()));
@@ -326,7 +325,8 @@ private slots:
         QCOMPARE(keyboard.focusName(), "m_apb1div_ComboBox"_s);
     }
 
-    /// What a click led to leaves the arrows to the picture, but for a text; nothing takes the keys that zoom.
+    /// What a click led to leaves the arrows to the picture, but for a text; nothing takes the keys that
+    /// zoom.
     void arrowsAfterAClick_data()
     {
         QTest::addColumn<QString>("name");
