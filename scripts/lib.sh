@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # weasyprint makes the manuals, and poppler's tools check them.
 PACKAGES=(
     cmake ninja-build ccache g++ clang-format
-    qtbase5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev qttranslations5-l10n
+    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libqscintilla2-qt5-dev qttranslations5-l10n
     fonts-liberation fonts-dejavu-core fonts-wqy-microhei
     xvfb xauth x11-utils openbox openssl
     desktop-file-utils appstream libglib2.0-bin xz-utils

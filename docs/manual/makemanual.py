@@ -21,7 +21,7 @@ from markupsafe import Markup
 from PIL import Image
 
 HERE = pathlib.Path(__file__).parent
-PIXELS_PER_MM = 11  # of the pictures, which come in twice the pixels of a screen
+PIXELS_PER_MM = 5.5  # of a screen
 
 
 class Texts:
@@ -49,7 +49,8 @@ class Page:
         self.words = {key: each[language] for key, each in load("words.json").items()}
         self.text = texts
         self.pictures = pictures
-        self.unseen = {path.stem for path in pictures.glob("*.png")}
+        self.files = {path.stem: path for suffix in ("png", "svg") for path in pictures.glob(f"*.{suffix}")}
+        self.unseen = set(self.files)
 
     def ui(self, *sources):
         """A text of the interface; several are the way through a menu."""
@@ -68,10 +69,10 @@ class Page:
     def picture(self, name, caption, mm=None, beside=False):
         """A picture of the program; dialogs get the title bar that the desktop would give them. The text can run
         beside it."""
-        path = self.pictures / f"{name}.png"
+        path = self.files[name]
         self.unseen.discard(name)
-        with Image.open(path) as image:
-            width, title = min(mm or image.width / PIXELS_PER_MM, 170), image.text.get("Title", "")
+        pixels, title = size_and_title(path)
+        width = min(mm or pixels / PIXELS_PER_MM, 170)
         bar = f'<div class="bar">{html.escape(title)}</div>' if title else ""
         place = f' class="beside" style="width: {width:.0f}mm"' if beside else ""
         shot = f'<p class="shot"><img src="{address(path)}" alt="{caption}"></p>'
@@ -99,6 +100,14 @@ def joined_lines(text):
 def address(path):
     """The PDF names a picture by its address, which must not depend on the folder of the build."""
     return f"picture:{path.parent.name}/{path.name}"
+
+
+def size_and_title(path):
+    """The width of a picture in the pixels of a screen, and the title of its window, which a drawn one lacks."""
+    if path.suffix == ".svg":
+        return float(re.search(r'viewBox="0 0 (\S+)', path.read_text()).group(1)), ""
+    with Image.open(path) as image:
+        return image.width / 2, image.text.get("Title", "")
 
 
 def load(name):
@@ -153,7 +162,7 @@ def build_html(page, language, version, facts_folder):
         ui=page.ui, text=page.text, box=page.box, picture=page.picture, code=page.code, w=page.words.__getitem__,
         version=version, series=facts, limits_table=limits_table,
         names=lambda some: page.words["comma"].join(one["name"] for one in some),
-        tree=lambda one: address(facts_folder / f"{one['word']}.png"))
+        tree=lambda one: address(facts_folder / f"{one['word']}.svg"))
     chapters = [env.get_template(str(path.relative_to(HERE))).render()
                 for path in sorted((HERE / language).glob("*.md"))]
     converter = markdown.Markdown(extensions=["extra", "toc"], extension_configs={"toc": {"toc_depth": "1-2"}})

@@ -4,6 +4,7 @@
 #include "widgets/focusframe.h"
 
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
@@ -133,6 +134,25 @@ void PinGraphicsView::mouseReleaseEvent(QMouseEvent* event)
         viewport()->setCursor(Qt::ArrowCursor);
     }
     QGraphicsView::mouseReleaseEvent(event);
+}
+
+bool PinGraphicsView::isPictureAt(QPoint pos) const
+{
+    const QGraphicsItem* item = itemAt(pos);
+    const auto* proxy = qgraphicsitem_cast<const QGraphicsProxyWidget*>(item);
+    return item && (item == m_pixmapItem || (proxy && proxy->focusPolicy() == Qt::NoFocus));
+}
+
+void PinGraphicsView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const bool onPicture = byKey ? !(m_tabOrder && m_tabOrder->current()) : isPictureAt(event->pos());
+    if (!onPicture) {
+        QGraphicsView::contextMenuEvent(event);
+        return;
+    }
+    event->accept();
+    emit pictureMenuWanted(byKey ? viewport()->mapToGlobal(viewport()->rect().center()) : event->globalPos());
 }
 
 bool PinGraphicsView::isComboAt(QPoint pos) const

@@ -39,6 +39,10 @@ public:
     /// Moves the picture by a distance in scene coordinates; less than a viewport pixel has no effect.
     void translate(QPointF delta);
 
+signals:
+    /// A menu is asked for where nothing but the picture is, by the mouse or by its key.
+    void pictureMenuWanted(const QPoint& globalPos);
+
 public slots:
     /// Keeps track of whether a combo's list has the focus; the combos are wired to it.
     void Focus_InControl_Slot(bool focused) { m_focusInControl_Flag = focused; }
@@ -49,6 +53,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
@@ -60,6 +65,8 @@ private:
     bool stepInGroup(int key);
     bool panByKey(int key);
     void followFocus(QGraphicsItem* now, QGraphicsItem* before, Qt::FocusReason reason);
+    /// Labels are part of the picture to the mouse.
+    bool isPictureAt(QPoint pos) const;
     /// A combo box keeps the wheel for itself, with Ctrl too.
     bool isComboAt(QPoint pos) const;
 

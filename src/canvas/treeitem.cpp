@@ -109,6 +109,14 @@ QVector<tree::ControlState> TreeItem::states()
     return states;
 }
 
+tree::State TreeItem::state()
+{
+    tree::State state;
+    if (!m_controls.isEmpty())
+        state.uses = circuit().usesOf(states());
+    return state;
+}
+
 void TreeItem::mark(const QVector<int>& nets)
 {
     if (m_marked == nets)
@@ -123,9 +131,7 @@ void TreeItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
         QGraphicsPixmapItem::paint(painter, option, widget);
         return;
     }
-    tree::State state;
-    if (!m_controls.isEmpty())
-        state.uses = circuit().usesOf(states());
-    state.marks = tree::marksOf(m_figures, m_circuit, m_marked);
-    tree::draw(*painter, m_figures, option->exposedRect, state);
+    tree::State now = state();
+    now.marks = tree::marksOf(m_figures, m_circuit, m_marked);
+    tree::draw(*painter, m_figures, option->exposedRect, now);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tree/circuit.h"
+#include "tree/drawing.h"
 #include "tree/figures.h"
 
 #include <QGraphicsPixmapItem>
@@ -24,6 +25,8 @@ public:
     const tree::Circuit& circuit();
     /// Of the circuit's controls, in its order.
     QVector<tree::ControlState> states();
+    /// How the picture looks with nothing marked.
+    tree::State state();
 
     /// Lifts all that carries these signals out of the picture.
     void mark(const QVector<int>& nets);

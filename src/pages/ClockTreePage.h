@@ -48,6 +48,8 @@ public:
     void SaveToFile(const QString& seriesName);
     /// Writes the file without checks or questions; false if it cannot be opened.
     bool writeDesign(const QString& path, const QString& seriesName) const;
+    /// The message for a file of the user's that could not be written.
+    void tellSaveFailed() const;
     /// Takes over the settings of the file; what it lacks or holds wrongly takes its default.
     void OpenFromFile(const QString& path);
     /// The same from a file that has been read.

@@ -20,13 +20,18 @@ void ClockTreePage::SaveToFile(const QString& seriesName)
     if (path.isNull())
         return;
     if (!writeDesign(path, seriesName)) {
-        showMessage(QMessageBox::Critical, translated("Error"), translated("Save file failed!"),
-                    {
-                        {QMessageBox::Ok, translated("Ok")}
-        });
+        tellSaveFailed();
         return;
     }
     showMessage(QMessageBox::Information, translated("Information"), translated("Save file succeed!"),
+                {
+                    {QMessageBox::Ok, translated("Ok")}
+    });
+}
+
+void ClockTreePage::tellSaveFailed() const
+{
+    showMessage(QMessageBox::Critical, translated("Error"), translated("Save file failed!"),
                 {
                     {QMessageBox::Ok, translated("Ok")}
     });

@@ -3,6 +3,7 @@
 #include "model/seriestraits.h"
 #include "pages/ClockTreePage.h"
 #include "pages/series/seriespages.h"
+#include "shell/picturemenu.h"
 #include "widgets/messages.h"
 #include "widgets/named.h"
 #include "xml/guardedxml.h"
@@ -122,6 +123,7 @@ void ZN64PLLConfig::NewMCUConfig(ZN64MCUSERIALS series)
     delete m_start_Label;
     m_start_Label = nullptr;
     m_main_VBoxLayout->addWidget(named("m_pllConfigWidget", m_pllConfigWidget));
+    new PictureMenu(m_pllConfigWidget);
     // The keys are the tree's from the start: Tab goes to its first control.
     m_pllConfigWidget->view()->setFocus();
 }

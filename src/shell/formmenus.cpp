@@ -1,22 +1,11 @@
 #include "shell/formconfiguration.h"
 
+#include "widgets/look.h"
 #include "widgets/named.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-
-namespace {
-
-/// The menus would take over the form's white ground, on which the entry under the mouse could not be seen.
-QString menuSheet()
-{
-    return QStringLiteral("QMenu{background-color: rgb(255, 255, 255); border: 1px solid rgb(57, 169, 220);}"
-                          "QMenu::item{color: rgb(0, 32, 82); padding: 4px 24px;}"
-                          "QMenu::item:selected{background-color: rgb(57, 169, 220); color: white;}");
-}
-
-} // namespace
 
 QAction* FormConfiguration::newAction(const char* memberName)
 {
@@ -70,7 +59,7 @@ void FormConfiguration::translateActions()
 QMenu* FormConfiguration::newMenu(const char* memberName, std::initializer_list<QAction*> entries)
 {
     QMenu* menu = named(memberName, new QMenu(this));
-    menu->setStyleSheet(menuSheet());
+    menu->setStyleSheet(look::menuSheet());
     menu->addActions(entries);
     m_MenuBar->addMenu(menu);
     return menu;

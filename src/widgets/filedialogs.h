@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -13,6 +14,9 @@ namespace filedialogs {
 QString fileToOpen(QWidget* parent, const QString& title, const QString& filter);
 /// The user may name a file that does not exist; no suffix is added.
 QString fileToSave(QWidget* parent, const QString& title, const QString& filter);
+/// The same for a file in one of several formats, a filter for each. A name that ends in none of their
+/// suffixes gets that of the chosen filter. name is what the user may accept or change, without a suffix.
+QString fileToSave(QWidget* parent, const QString& title, const QStringList& filters, const QString& name);
 /// An existing folder; the dialog shows folders only, and offers to make the one that the user typed.
 QString folder(QWidget* parent, const QString& title);
 

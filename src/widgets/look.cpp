@@ -122,3 +122,10 @@ QString look::scrollBarSheet(const QString& extent)
                           "QScrollBar::sub-line{background:transparent;}"
                           "QScrollBar::add-line{background:transparent;}");
 }
+
+QString look::menuSheet()
+{
+    return QStringLiteral("QMenu{background-color: rgb(255, 255, 255); border: 1px solid rgb(57, 169, 220);}"
+                          "QMenu::item{color: rgb(0, 32, 82); padding: 4px 24px;}"
+                          "QMenu::item:selected{background-color: rgb(57, 169, 220); color: white;}");
+}

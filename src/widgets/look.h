@@ -23,4 +23,8 @@ QStyle* plainStyle();
 /// The sheet of a scroll bar. extent is its thickness as a property, "width: 12px;" of an upright one.
 QString scrollBarSheet(const QString& extent);
 
+/// The sheet of a menu. It would take over its window's white ground, on which the entry under the mouse
+/// could not be seen.
+QString menuSheet();
+
 } // namespace look

@@ -1,5 +1,7 @@
 #include "seriesfacts.h"
 
+#include "export/treeexport.h"
+#include "files/replacefile.h"
 #include "model/seriestraits.h"
 #include "pages/series/seriespages.h"
 #include "shell/MCUSelect_Form.h"
@@ -12,7 +14,6 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -33,33 +34,6 @@ QHash<QString, QString> linesOfDialog()
     return lines;
 }
 
-/// The page in its start state, as large as its picture, in twice the pixels if the platform has such.
-bool savePicture(ClockTreePage& page, const QString& path)
-{
-    const QSize size = page.description().pictureSize;
-    QGraphicsView* view = page.view();
-    view->setSceneRect(QRectF(QPointF(), size));
-    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    page.window()->resize(size);
-    page.resize(size);
-    QCoreApplication::processEvents();
-    // Without an alpha channel, which a PDF would hold as a second image, and packed in haste: the maker of
-    // the PDF packs it again.
-    constexpr int hastyPng = 90;
-    return view->viewport()
-        ->grab()
-        .toImage()
-        .convertToFormat(QImage::Format_RGB32)
-        .save(path, "PNG", hastyPng);
-}
-
-bool writeJson(const QJsonArray& all, const QString& path)
-{
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(all).toJson()) > 0 && file.commit();
-}
-
 bool writeFacts(const QDir& folder)
 {
     const QHash<QString, QString> lines = linesOfDialog();
@@ -73,10 +47,13 @@ bool writeFacts(const QDir& folder)
         QJsonObject facts = factsOf(*page);
         facts.insert(QStringLiteral("line"), lines.value(traits.name()));
         all.append(facts);
-        if (!savePicture(*page, folder.filePath(QLatin1String(traits.word) + QLatin1String(".png"))))
+        // The controls take the sizes of their texts.
+        QCoreApplication::processEvents();
+        const QByteArray picture = treeexport::svg(*page, treeexport::wholeOf(*page), traits.name());
+        if (!replaceFile(folder.filePath(QLatin1String(traits.word) + QLatin1String(".svg")), picture))
             return false;
     }
-    return writeJson(all, folder.filePath(QStringLiteral("series.json")));
+    return replaceFile(folder.filePath(QStringLiteral("series.json")), QJsonDocument(all).toJson());
 }
 
 } // namespace

@@ -3,6 +3,9 @@
 #include "steps.h"
 #include "tour.h"
 
+#include "export/treeexport.h"
+#include "files/replacefile.h"
+
 #include <QApplication>
 #include <QGraphicsScene>
 #include <QLabel>
@@ -50,18 +53,35 @@ void growToWhole(QRectF& area, const QGraphicsScene& scene)
 
 /// The part of the tree around these controls, and as many picture pixels more to the right, where outputs
 /// have their names.
-void keepAround(Tour& tour, std::initializer_list<const char*> controls, const char* name, int right = 0)
+QRectF areaAround(Tour& tour, std::initializer_list<const char*> controls, int right)
 {
     constexpr int margin = 24; // picture pixels
     QTest::qWait(50);
     QRectF area;
     for (const char* each : controls)
         area |= ZN64MCUPLL::proxyOf(tour.control<QWidget>(each))->sceneBoundingRect();
-    auto* view = tour.form().findChild<PinGraphicsView*>();
     area.adjust(-margin, -margin, margin + right, margin);
-    growToWhole(area, *view->scene());
+    growToWhole(area, *tour.form().findChild<PinGraphicsView*>()->scene());
+    return area;
+}
+
+/// As on the screen, with lists that are open.
+void photographAround(Tour& tour, std::initializer_list<const char*> controls, const char* name, int right)
+{
+    auto* view = tour.form().findChild<PinGraphicsView*>();
+    const QRectF area = areaAround(tour, controls, right);
     const QRect inView = view->mapFromScene(area).boundingRect() & view->viewport()->rect();
     keep(tour, view->viewport()->grab(inView), name);
+}
+
+void drawAround(Tour& tour, std::initializer_list<const char*> controls, const char* name, int right = 0)
+{
+    const auto* page = tour.form().findChild<ControlFactory*>();
+    const QRectF whole = treeexport::wholeOf(*page);
+    const QRect area = (areaAround(tour, controls, right) & whole).toAlignedRect();
+    const QString file = QLatin1String(name) + QLatin1String(".svg");
+    tour.expect(replaceFile(tour.path(file), treeexport::svg(*page, area, file)),
+                QStringLiteral("the picture %1 is written").arg(file));
 }
 
 /// The whole dialog, also where a small screen would fold or cut its text.
@@ -102,22 +122,22 @@ void setFrequencies(Tour& tour)
 {
     tour.step("first design: crystal, USB and system clock");
     tour.type("m_hext_lineEdit", QStringLiteral("12"), false);
-    keepAround(tour, {"m_hext_lineEdit", "m_hext_In", "m_hextbypass_ComboBox", "m_hext_Label1"}, "typed");
+    drawAround(tour, {"m_hext_lineEdit", "m_hext_In", "m_hextbypass_ComboBox", "m_hext_Label1"}, "typed");
     tour.type("m_hext_lineEdit", QStringLiteral("12"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("300.000"));
-    keepAround(tour, {"m_sclkselect_Label", "m_toapb1tmr_lineEdit", "m_togpio_lineEdit"}, "red", 110);
+    drawAround(tour, {"m_sclkselect_Label", "m_toapb1tmr_lineEdit", "m_togpio_lineEdit"}, "red", 110);
     tour.choose("m_tousbswitch_ComboBox", QStringLiteral("enable"));
     tour.expectText("m_usbclock_Label", QStringLiteral("48.000 MHz"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("192.000"));
     tour.type("m_sclk_lineEdit", QStringLiteral("160"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("156.000"));
     tour.expectText("m_usbclock_Label", QStringLiteral("39.000 MHz"));
-    keepAround(tour, {"m_usbdiv_ComboBox", "m_hicktousb_Label", "m_usbclock_Label"}, "usb-red");
+    drawAround(tour, {"m_usbdiv_ComboBox", "m_hicktousb_Label", "m_usbclock_Label"}, "usb-red");
     tour.type("m_sclk_lineEdit", QStringLiteral("144"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("144.000"));
     tour.expectText("m_usbclock_Label", QStringLiteral("48.000 MHz"));
     tour.expectText("m_toapb1peripheral_lineEdit", QStringLiteral("72.000"));
-    keepAround(tour, {"m_usbdiv_ComboBox", "m_hicktousb_Label", "m_usbclock_Label"}, "usb-good");
+    drawAround(tour, {"m_usbdiv_ComboBox", "m_hicktousb_Label", "m_usbclock_Label"}, "usb-good");
 }
 
 void setOutputs(Tour& tour)
@@ -131,7 +151,8 @@ void setOutputs(Tour& tour)
     tour.expectText("m_clockout_Value_QLabel", QStringLiteral("(36.000 MHz)"));
     keepForm(tour, "design");
     tour.clickOnCanvas("m_toapb1peripheral_List_Button");
-    keepAround(tour, {"m_apb1div_Label", "m_toapb1tmr_lineEdit", "m_toapb1periphera_list_group"}, "list", 40);
+    photographAround(tour, {"m_apb1div_Label", "m_toapb1tmr_lineEdit", "m_toapb1periphera_list_group"},
+                     "list", 40);
     tour.clickOnCanvas("m_toapb1peripheral_List_Button");
 }
 
@@ -169,12 +190,12 @@ void flexiblePll(Tour& tour)
                      [&] { tour.clickMenu("m_FileMenu", "m_New_Action"); });
     tour.type("m_sclk_lineEdit", QStringLiteral("170"));
     tour.expectText("m_sclk_lineEdit", QStringLiteral("170.000"));
-    keepAround(tour, {"m_hext_Label1", "m_hext_In", "m_hick_lineEdit", "m_pllrc_Label", "m_sclk_lineEdit"},
+    drawAround(tour, {"m_hext_Label1", "m_hext_In", "m_hick_lineEdit", "m_pllrc_Label", "m_sclk_lineEdit"},
                "flexible");
     tour.withDialogs({agree(tour, "pll-question")},
                      [&] { tour.type("m_pllns_lineEdit", QStringLiteral("500")); });
     tour.type("m_sclk_lineEdit", QStringLiteral("288"));
-    keepAround(tour, {"m_sclk_Label", "m_sclkWarning1_QLabel", "m_sclkWarning3_QLabel"}, "warning", 150);
+    drawAround(tour, {"m_sclk_Label", "m_sclkWarning1_QLabel", "m_sclkWarning3_QLabel"}, "warning", 150);
 }
 
 } // namespace
