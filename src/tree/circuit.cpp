@@ -35,7 +35,8 @@ public:
     {
         switch (element.kind) {
         case Kind::Radio:
-            return state(element).enabled && state(element).passes;
+            // It is grey with its selector, but for a selector that only flags elsewhere use.
+            return state(element).passes && isUsed(m_circuit.m_elements[element.selector]);
         case Kind::Control:
             return state(element).passes &&
                    (state(element).enabled || (element.gives >= 0 && isUsed(element.gives)));
@@ -146,7 +147,7 @@ int Circuit::element(const QString& name)
     if (known != m_byName.constEnd())
         return *known;
     m_byName.insert(name, m_elements.size());
-    m_elements.append({name, Kind::Control, -1, -1, -1, {}});
+    m_elements.append({name, Kind::Control, -1, -1, -1, -1, {}});
     return m_elements.size() - 1;
 }
 
@@ -160,6 +161,7 @@ void Circuit::add(const Figure& figure)
     for (const QString& radio : figure.inputs) {
         const int input = element(radio);
         m_elements[input].kind = Kind::Radio;
+        m_elements[input].selector = at;
         m_elements[at].inputs.append(input);
     }
 }

@@ -87,6 +87,7 @@ private:
         int control = -1;    ///< of the controls
         int takes = -1;      ///< the signal that reaches it
         int gives = -1;      ///< the signal that leaves it
+        int selector = -1;   ///< element, of a radio button
         QVector<int> inputs; ///< elements, of a multiplexer
     };
     struct Piece
