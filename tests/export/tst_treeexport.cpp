@@ -107,9 +107,15 @@ private slots:
                 for (int y = 0; y + step < size.height(); y += step)
                     QVERIFY2(looksLikeThePage(QRect(x, y, step, step), 10),
                              qPrintable("%1 at %2, %3"_s.arg(suffix).arg(x).arg(y)));
+            // Mean colours are too coarse to tell red digits from black ones.
             const QString texts = textsIn(suffix, file);
             for (const QString& text : suffix == u"png" ? QStringList() : textsOn(page))
                 QVERIFY2(texts.contains(text), qPrintable(suffix + u' ' + text));
+            for (const auto* edit :
+                 suffix == u"svg" ? page.page->findChildren<QLineEdit*>() : QList<QLineEdit*>()) {
+                const QString text = edit->palette().color(QPalette::Text).name() + u':' + edit->text();
+                QVERIFY2(!edit->isVisible() || texts.contains(QString(text).remove(u' ')), qPrintable(text));
+            }
         }
     }
 
@@ -129,7 +135,8 @@ private slots:
         page.click("toapb1peripheral_List_Button"_s);
         page.page->treeItem().mark({0, 1, 2});
         QVERIFY(before == files());
-        for (const char* name : {"hext_lineEdit", "ahbdiv_ComboBox", "pllrcs_hext_RadioButton"}) {
+        for (const char* name :
+             {"hext_lineEdit", "towdt_lineEdit", "ahbdiv_ComboBox", "pllrcs_hext_RadioButton"}) {
             page.click(QLatin1String(name));
             QTest::mouseMove(page.viewport(), page.middleOf(page.find(QLatin1String(name))));
             QCoreApplication::processEvents();
@@ -151,15 +158,16 @@ private:
         return QSizeF(box.section(u' ', 2, 2).toDouble(), box.section(u' ', 3, 3).toDouble()).toSize();
     }
 
-    /// Without the blanks.
+    /// Without the blanks; in an SVG file behind their colours.
     static QString textsIn(const QString& suffix, const QByteArray& file)
     {
         QString texts;
         if (suffix == u"pdf")
             texts = QString::fromUtf8(poppler("pdftotext"_s, {"-raw"_s, "-"_s, "-"_s}, file));
         const QString source = QString::fromUtf8(file);
-        for (auto text = QRegularExpression("<text[^>]*>([^<]*)<"_s).globalMatch(source); text.hasNext();)
-            texts += text.next().captured(1) + u'\n';
+        const QRegularExpression element("<text fill=\"([^\"]*)\"[^>]*>([^<]*)<"_s);
+        for (auto text = element.globalMatch(source); text.hasNext();)
+            texts += text.next().capturedTexts().mid(1).join(u':') + u'\n';
         return texts.remove(u' ');
     }
 };
