@@ -1,10 +1,11 @@
 #include "canvas/CustomQControl.h"
 
+#include "canvas/comboarrow.h"
+
 #include "canvas/appearance.h"
 #include "widgets/look.h"
 
 #include <QMouseEvent>
-#include <QPainterPath>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -47,22 +48,6 @@ const ComboSheets& sheets()
 {
     static const ComboSheets all;
     return all;
-}
-
-// The arrow from its middle, pixels: half of its width, and of its height.
-constexpr qreal arrowAcross = 3.25;
-constexpr qreal arrowDown = 1.625;
-constexpr qreal arrowStroke = 1.75;
-
-/// The sheet's picture of an arrow as strokes, which stay sharp at every zoom.
-void drawArrow(QPainter& painter, const QPointF& middle, const QColor& color)
-{
-    QPainterPath arrow(middle + QPointF(-arrowAcross, -arrowDown));
-    arrow.lineTo(middle + QPointF(0, arrowDown));
-    arrow.lineTo(middle + QPointF(arrowAcross, -arrowDown));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(arrow, QPen(color, arrowStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 } // namespace
@@ -161,22 +146,27 @@ void CustomComboBox1::paintEvent(QPaintEvent*)
         return QRectF(style()->subControlRect(QStyle::CC_ComboBox, &option, which, this));
     };
     const QPointF middle = part(QStyle::SC_ComboBoxArrow).center();
-    drawArrow(painter, middle, isEnabled() ? QColor(0, 32, 82) : QColor(Qt::gray));
+    comboarrow::draw(painter, middle, isEnabled());
     // The style ends the text at the arrow's column, of which the arrow takes less than half.
-    const qreal arrowLeft = middle.x() - arrowAcross - arrowStroke / 2;
+    const qreal arrowLeft = middle.x() - comboarrow::across;
     option.rect.setRight(option.rect.right() + int(arrowLeft - part(QStyle::SC_ComboBoxEditField).right()));
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void RoundRadioButton::paintEvent(QPaintEvent*)
 {
-    QStylePainter painter(this);
+    QPainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
+    draw(painter, option);
+}
+
+void RoundRadioButton::draw(QPainter& painter, QStyleOptionButton option) const
+{
     // The sheet's ring is a square with round corners: here it is the disc of a checked button with a hole.
     option.state.setFlag(QStyle::State_On, true);
     option.state.setFlag(QStyle::State_Off, false);
-    painter.drawControl(QStyle::CE_RadioButton, option);
+    style()->drawControl(QStyle::CE_RadioButton, &option, &painter, this);
     if (isChecked())
         return;
     const QRectF disc = style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, this);

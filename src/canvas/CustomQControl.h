@@ -66,8 +66,13 @@ private:
 /// A radio button of the trees, which is round at every zoom, checked or not.
 class RoundRadioButton : public QRadioButton
 {
+    Q_OBJECT
+
 public:
     using QRadioButton::QRadioButton;
+
+    /// Draws it where the painter stands, in the state of the option.
+    void draw(QPainter& painter, QStyleOptionButton option) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

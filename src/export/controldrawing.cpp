@@ -1,11 +1,13 @@
 #include "export/controldrawing.h"
 
+#include "canvas/CustomQControl.h"
+#include "canvas/comboarrow.h"
+
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QStyle>
 #include <QStyleOption>
 #include <QSvgRenderer>
@@ -20,8 +22,6 @@ constexpr int editMargin = 2;
 constexpr int comboMargin = 1;
 /// Between the icon of a button and its text, pixels.
 constexpr int iconGap = 4;
-/// Of the arrow of a combo box, pixels.
-constexpr QSizeF arrowSize(10, 20);
 
 template <class Option>
 Option untouched(const QWidget& control)
@@ -80,11 +80,9 @@ void draw(QPainter& painter, const QComboBox& combo)
     const QStyle* style = combo.style();
     const QRectF button =
         style->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, &combo);
-    QRectF arrow(QPointF(), arrowSize);
-    arrow.moveCenter(button.center());
     QRect text = style->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
     text.adjust(comboMargin, 0, 0, 0);
-    text.setRight(qFloor(arrow.left()));
+    text.setRight(qFloor(button.center().x() - comboarrow::across));
     option.subControls &= ~QStyle::SC_ComboBoxArrow;
     // The sheet's is another one once the combo had the focus.
     if (combo.isEnabled())
@@ -92,14 +90,12 @@ void draw(QPainter& painter, const QComboBox& combo)
     style->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, &combo);
     style->drawItemText(&painter, text, Qt::AlignLeft | Qt::AlignVCenter, option.palette, combo.isEnabled(),
                         fitting(option, combo.currentText(), text.width()), QPalette::ButtonText);
-    drawIcon(painter, "downArrow4.svg", arrow);
+    comboarrow::draw(painter, button.center(), combo.isEnabled());
 }
 
-void draw(QPainter& painter, const QRadioButton& radio)
+void draw(QPainter& painter, const RoundRadioButton& radio)
 {
-    auto option = untouched<QStyleOptionButton>(radio);
-    option.state |= radio.isChecked() ? QStyle::State_On : QStyle::State_Off;
-    radio.style()->drawControl(QStyle::CE_RadioButton, &option, &painter, &radio);
+    radio.draw(painter, untouched<QStyleOptionButton>(radio));
 }
 
 /// A button that opens a list: an icon with a text beside it.
@@ -148,6 +144,6 @@ bool drawn(QPainter& painter, const QWidget& widget, const QPointF& place)
 void drawControl(QPainter& painter, const QWidget& control, const QPointF& place)
 {
     (void)(drawn<QLineEdit>(painter, control, place) || drawn<QComboBox>(painter, control, place) ||
-           drawn<QRadioButton>(painter, control, place) || drawn<QPushButton>(painter, control, place) ||
+           drawn<RoundRadioButton>(painter, control, place) || drawn<QPushButton>(painter, control, place) ||
            drawn<QLabel>(painter, control, place));
 }
