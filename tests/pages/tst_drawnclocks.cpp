@@ -131,7 +131,7 @@ void TestDrawnClocks::numbers()
             const_cast<Deviation*>(told)->seen = true;
         }
     }
-    QVERIFY2(compared > 30, qPrintable(QString::number(compared)));
+    QVERIFY2(compared > 6 * randomRounds(page), qPrintable(QString::number(compared)));
 }
 
 /// The number in front of a derivation is what the derivation comes to.
