@@ -24,7 +24,7 @@ bool isWrapper(const QObject* object)
     if (!object || !object->isWidgetType())
         return false;
     const auto* widget = static_cast<const QWidget*>(object);
-    return widget->isWindow() && widget->graphicsProxyWidget();
+    return widget->isWindow() && widget->windowType() != Qt::Popup && widget->graphicsProxyWidget();
 }
 
 QAccessibleInterface* interfaceOf(QObject* object)

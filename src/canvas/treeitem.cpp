@@ -63,6 +63,8 @@ void TreeItem::cut()
     m_covers = covers();
     m_figures = tree::cutAt(m_whole, m_covers);
     m_circuit = tree::Circuit(m_figures, m_takenUp);
+    // Signals have other numbers now.
+    m_marked.clear();
     m_watched.clear();
     for (const QString& control : m_circuit.controls())
         m_watched.append(m_controls.value(control));

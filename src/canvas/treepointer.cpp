@@ -23,16 +23,21 @@ TreePointer::TreePointer(PinGraphicsView& view, TreeItem& tree, const TreeGuide&
     view.viewport()->installEventFilter(this);
 }
 
+TreePointer::~TreePointer()
+{
+    QToolTip::hideText();
+}
+
 bool TreePointer::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::MouseMove:
         // A pan moves the picture under the pointer, which means nothing then.
         if (static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
-            markAt(static_cast<QMouseEvent*>(event)->pos());
+            follow(static_cast<QMouseEvent*>(event)->pos());
         break;
     case QEvent::Leave:
-        m_net = -1;
+        m_source.clear();
         m_tree.mark({});
         break;
     case QEvent::ToolTip:
@@ -50,37 +55,40 @@ const QWidget* TreePointer::controlAt(const QPoint& pos) const
     if (!proxy || !proxy->widget())
         return nullptr;
     const QWidget* control = proxy->widget()->childAt(proxy->mapFromScene(m_view.mapToScene(pos)).toPoint());
-    return control && control->objectName().startsWith(QLatin1String("m_")) ? control : nullptr;
+    return control ? control : proxy->widget();
 }
 
 int TreePointer::netAt(const QPoint& pos) const
 {
-    // A flag lies around a label; every other control hides what is below it.
+    // A flag lies around a label of the scene; every other control, and every list that is open, hides what
+    // is below it.
     const QWidget* control = controlAt(pos);
-    if (control && !qobject_cast<const QLabel*>(control))
+    if (control && !(qobject_cast<const QLabel*>(control) && control->parentWidget()->graphicsProxyWidget()))
         return -1;
     const double scale = m_view.transform().m11();
     return tree::netAt(m_tree.figures(), m_tree.circuit(), m_view.mapToScene(pos), reach / scale);
 }
 
-void TreePointer::markAt(const QPoint& pos)
+void TreePointer::follow(const QPoint& pos)
 {
     const int net = netAt(pos);
-    if (net == m_net)
-        return;
-    m_net = net;
-    m_tree.mark(net >= 0 ? m_guide.sameSignal(net) : QVector<int>());
+    const QString source = net >= 0 ? m_tree.circuit().sourceOf(net) : QString();
+    if (source != m_source)
+        m_tree.mark(net >= 0 ? m_guide.sameSignal(net) : QVector<int>());
+    if (source != m_source || controlAt(pos) != m_told)
+        QToolTip::hideText();
+    m_source = source;
 }
 
 void TreePointer::tellAt(const QPoint& pos, const QPoint& global)
 {
     const int net = netAt(pos);
-    const QWidget* control = controlAt(pos);
+    m_told = controlAt(pos);
     QStringList sentences;
     if (net >= 0)
         sentences = m_guide.tellSignal(net);
-    else if (control)
-        sentences = m_guide.tellControl(control);
+    else if (m_told && m_told->objectName().startsWith(QLatin1String("m_")))
+        sentences = m_guide.tellControl(m_told);
     // Of no widget: the sheet of the view would take its frame away.
     QToolTip::showText(global, sentences.join(QLatin1Char('\n')));
 }

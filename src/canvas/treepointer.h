@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 class PinGraphicsView;
-class QGraphicsItem;
 class QPoint;
 class QWidget;
 class TreeGuide;
@@ -18,18 +18,21 @@ class TreePointer : public QObject
 public:
     TreePointer(PinGraphicsView& view, TreeItem& tree, const TreeGuide& guide);
 
+    ~TreePointer() override;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// pos: of the view, pixels. -1 where there is none.
     int netAt(const QPoint& pos) const;
-    /// The control of the scene below the pointer; a label is none unless it is named for the ear.
+    /// What of the scene's controls and open lists is below the pointer; null over the bare picture.
     const QWidget* controlAt(const QPoint& pos) const;
-    void markAt(const QPoint& pos);
+    void follow(const QPoint& pos);
     void tellAt(const QPoint& pos, const QPoint& global);
 
     PinGraphicsView& m_view;
     TreeItem& m_tree;
     const TreeGuide& m_guide;
-    int m_net = -1;
+    QString m_source; ///< of the signal that is marked; signals change their numbers with the mode
+    const QWidget* m_told = nullptr; ///< below the pointer when a tool tip was asked for; only compared
 };

@@ -136,6 +136,7 @@ private:
     QRadioButton* placeRadio(const QString& name) override;
     QPushButton* placeListButton(const QString& name, const QString& output) override;
     QDialog* placeList(const QString& name, const QStringList& peripherals) override;
+    void speakOf(QWidget* control, const QString& name) override;
     QWidget* widget() override { return this; }
 
     void addControls(const char* routine, std::function<void()> make) override;

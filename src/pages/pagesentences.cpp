@@ -110,6 +110,16 @@ void ClockTreePage::speak()
     tellLater();
 }
 
+void ClockTreePage::speakOf(QWidget* control, const QString& name)
+{
+    QString& known = m_spoken[control];
+    if (known == name)
+        return;
+    known = name;
+    appearance::setSpoken(control, spokenInLanguage(name));
+    tellLater();
+}
+
 void ClockTreePage::listenForListeners()
 {
     m_telling.setSingleShot(true);

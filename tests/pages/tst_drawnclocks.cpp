@@ -234,8 +234,14 @@ void TestDrawnClocks::sentences_data()
         "MHz = 8.000000 MHz * 9",
         "G110 | sclkselect_hext | sclk_lineEdit | system clock, MHz; at most 200 MHz; sclk 8.000 MHz = hext",
         "G110 | tousbswitch=enable sclk_lineEdit=80 | usbclock_Label | USB clock; 20.000 MHz, must be 48 "
-        "MHz; 48.000 MHz wanted, nearest is 20.000 MHz, -583333.333 ppm off; usb 20.000 MHz = 8.000000 MHz * "
-        "10 / 4",
+        "MHz, -583333.333 ppm off; usb 20.000 MHz = 8.000000 MHz * 10 / 4",
+        "G110 | tousbswitch=enable sclkselect_hext | usbclock_Label | USB clock; must be 48 MHz; 48.000 MHz "
+        "wanted, met exactly; usb 48.000 MHz = 8.000000 MHz * 24 / 4",
+        "G110 | hext_lineEdit~30 | hext_lineEdit | hext, MHz; 30 MHz, 4 to 25 MHz; hext 8.000 MHz",
+        "G142 | sclkselect_hext canswitch=enable canclocksel_pll | tocan_lineEdit | can clock, MHz; at most "
+        "180 MHz; shown is sclk; can 200.000 MHz = 8.000000 MHz * 25",
+        "G133 | clockoutpin=PA8 clockout_adcclk | clockout_adcclk_RadioButton | clock output from adcclk; "
+        "adcclk 0.000 MHz",
         "G152 | pllns_lineEdit~150 | pllns_lineEdit | PLL NS; 31 to 500; typed, not yet applied: Return "
         "applies it; vco 1152.000 MHz = 8.000000 MHz / 1 * 144",
         "G152 | clockout1pin=PA8 clockout1_hick | clockout1div1_ComboBox | clock output 1 divider 1; "

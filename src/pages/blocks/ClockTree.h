@@ -99,6 +99,8 @@ public:
     /// The button below the output, and the closed list of peripherals that it opens.
     virtual QPushButton* placeListButton(const QString& name, const QString& output) = 0;
     virtual QDialog* placeList(const QString& name, const QStringList& peripherals) = 0;
+    /// Assistive tools call the control so from now on, in the user's language; name: in English.
+    virtual void speakOf(QWidget* control, const QString& name) = 0;
     /// The parent of what belongs to no control, such as validators.
     virtual QWidget* widget() = 0;
 

@@ -256,6 +256,7 @@ std::optional<Remarks> FlexiblePllBlock::remarksOn(const QWidget* control) const
             Remarks remarks;
             remarks.lowest = each->lowest;
             remarks.highest = each->highest;
+            remarks.typed = each->typed();
             remarks.unit = "";
             remarks.waits = !committed(*each);
             return remarks;

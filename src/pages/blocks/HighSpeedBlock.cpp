@@ -141,6 +141,7 @@ std::optional<Remarks> HighSpeedBlock::remarksOn(const QWidget* control) const
     Remarks remarks;
     remarks.lowest = inputlimits::hextMin;
     remarks.highest = inputlimits::hextMax;
+    remarks.typed = typed();
     remarks.waits = !committed();
     return remarks;
 }

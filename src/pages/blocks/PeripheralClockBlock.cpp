@@ -104,9 +104,7 @@ void PeripheralClockBlock::UpdateResultControls()
     appearance::setText(m_result,
                         clock->words ? tree().translated(clock->words) : frequencyText(clock->value));
     appearance::setText(m_unit, QLatin1Char('(') + QLatin1String(clock->unit) + QLatin1Char(')'));
-    appearance::setSpoken(
-        m_result,
-        QStringLiteral("%1 clock, %2").arg(QLatin1String(m_clock.stem), QLatin1String(clock->unit)));
+    tree().speakOf(m_result, m_clock.spokenResult(clock->unit));
 }
 
 std::optional<Remarks> PeripheralClockBlock::remarksOn(const QWidget* control) const
@@ -115,6 +113,8 @@ std::optional<Remarks> PeripheralClockBlock::remarksOn(const QWidget* control) c
         return {};
     const PeripheralSource& source = checkedSource();
     Remarks remarks;
+    if (source.taken && *source.taken != source.shown)
+        remarks.shows = signalName(source.shown);
     if (source.limited == ClockSource::None)
         return remarks;
     remarks.shown = clockValue(source.limited, model());

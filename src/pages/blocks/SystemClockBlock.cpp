@@ -78,6 +78,8 @@ void SystemClockBlock::ControlsConnectSlots()
 void SystemClockBlock::UpdateResultControls()
 {
     const double sysclk = model().Get_SYSCLKValue();
+    if (tree().takingDesign() || (m_solved && m_solved->reached != sysclk))
+        m_solved.reset();
     ZN64MCUPLL::SetLineEditColor(m_sclk_lineEdit, outOfRange(ClockSource::Sclk) ? Qt::red : Qt::darkGreen);
     appearance::setText(m_sclk_lineEdit, frequencyText(sysclk));
     for (QLabel* warning : m_warnings)
@@ -112,7 +114,8 @@ std::optional<Remarks> SystemClockBlock::remarksOn(const QWidget* control) const
     remarks.lowest = description().typedSclk.lowest;
     remarks.highest = description().typedSclk.highest;
     remarks.waits = !committed();
-    if (m_solved && m_solved->reached == model().Get_SYSCLKValue())
+    remarks.typed = typed();
+    if (m_solved)
         remarks.wanted = m_solved->wanted;
     return remarks;
 }
@@ -179,10 +182,10 @@ void SystemClockBlock::sclk_LineEdit_returnPressed()
     if (!tree().readHextForPll())
         return;
     model().CalculateParam_From_SYSCLK();
-    m_solved = Solved{sysclk, model().Get_SYSCLKValue()};
     tree().updatePllControls();
     appearance::setSheet(m_sclk_lineEdit, styles::committedSysclk());
     tree().UpdateResultControls();
+    m_solved = Solved{sysclk, model().Get_SYSCLKValue()};
 }
 
 void SystemClockBlock::sclk_LineEdit_textChanged(const QString& text)

@@ -69,10 +69,12 @@ void UsbBlock::UpdateResultControls()
 
 std::optional<Remarks> UsbBlock::remarksOn(const QWidget* control) const
 {
-    if (control != m_usbclock_Label)
+    if (control != m_usbclock_Label || !on())
         return {};
     Remarks remarks{model().Get_USBCLKValue(), {limits::usbClock()}};
-    remarks.wanted = usbClockMHz;
+    // A PLL that drives the system clock is not moved for USB.
+    if (fromPll() && !tree().sclkFromPll())
+        remarks.wanted = usbClockMHz;
     return remarks;
 }
 

@@ -13,13 +13,16 @@ struct Remarks
     Limits limits = {};          ///< that make the field red, MHz
     /// The name of what decides red where it is not what the field shows.
     QString decidedBy = {};
+    /// The name of the clock that the field shows where the chip takes another one.
+    QString shows = {};
 
     // Of a field that takes typed text.
 
     std::optional<double> lowest = {};
     std::optional<double> highest = {};
     const char* unit = "MHz";
-    bool waits = false; ///< the text is not taken over yet
+    std::optional<double> typed = {}; ///< what stands in the field
+    bool waits = false;               ///< the text is not taken over yet
     /// What was wanted of the solver that found the value shown, MHz.
     std::optional<double> wanted = {};
 };

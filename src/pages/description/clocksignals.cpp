@@ -76,6 +76,10 @@ ClockSignals::Way ClockSignals::wayOf(int net) const
 {
     Way way;
     for (int steps = 0; net >= 0 && steps < longestWay; ++steps) {
+        if (const auto known = way.known ? std::nullopt : modelClock(net)) {
+            way.known = known->value;
+            way.behindKnown = way.factors.size();
+        }
         if (const std::optional<Factor> factor = factorAt(net))
             way.factors.prepend(*factor);
         way.root = net;
@@ -85,13 +89,18 @@ ClockSignals::Way ClockSignals::wayOf(int net) const
     return way;
 }
 
+std::optional<ClockReading> ClockSignals::modelClock(int net) const
+{
+    const ClockSource clock = m_names[net] ? m_names[net]->clock : m_flagged[net];
+    const std::optional<ClockReading> reading = frequencyOf(clock, m_model, m_hickAtOutputs);
+    return reading && !reading->words ? reading : std::nullopt;
+}
+
 std::optional<ClockReading> ClockSignals::oscillator(int net) const
 {
-    const QString source = m_circuit.sourceOf(net);
-    if (source == QLatin1String("m_hick_lineEdit"))
-        return ClockReading{m_model.Get_Hick_Input_Value()};
-    const std::optional<SignalName>& name = m_names[net];
-    return name ? frequencyOf(name->clock, m_model, m_hickAtOutputs) : std::nullopt;
+    return m_circuit.sourceOf(net) == QLatin1String("m_hick_lineEdit")
+               ? std::make_optional(ClockReading{m_model.Get_Hick_Input_Value()})
+               : modelClock(net);
 }
 
 QString ClockSignals::nameOf(int net) const
@@ -102,7 +111,9 @@ QString ClockSignals::nameOf(int net) const
     if (own && !own->name.isEmpty())
         return own->name;
     const int before = m_circuit.netInto(source, m_states);
-    return before >= 0 ? nameOf(before) + boxText(source) : QString();
+    if (before >= 0)
+        return nameOf(before) + boxText(source);
+    return m_flagged[net] == ClockSource::Outside ? QStringLiteral("external") : ::signalName(m_flagged[net]);
 }
 
 /// "8.000000 MHz / 1 * 144", or the name of the oscillator where nothing is made of its clock on the way.
@@ -133,19 +144,16 @@ ClockSignal ClockSignals::at(int net) const
     if (way.root < 0)
         return signal;
     const std::optional<ClockReading> root = oscillator(way.root);
-    if (!root || root->words)
+    if (!root)
         return signal;
-    const std::optional<SignalName>& own = m_names[net];
-    const ClockSource clock = own ? own->clock : flagged;
-    const bool turnsToKHz = own && own->inKHz && qstrcmp(root->unit, "MHz") == 0;
+    const bool turnsToKHz = m_names[net] && m_names[net]->inKHz && qstrcmp(root->unit, "MHz") == 0;
     signal.unit = turnsToKHz ? "kHz" : root->unit;
-    if (const auto known = frequencyOf(clock, m_model, m_hickAtOutputs)) {
-        signal.clock = known->value;
-    } else {
-        signal.clock = root->value * (turnsToKHz ? kHzPerMHz : 1.0);
-        for (const Factor& factor : way.factors)
-            signal.clock = factor.applied(*signal.clock);
-    }
+    // From the nearest clock that the model knows: after a refused edit it may hold back those behind a new
+    // source.
+    signal.clock = way.known.value_or(root->value) * (turnsToKHz ? kHzPerMHz : 1.0);
+    const int behind = way.known ? way.behindKnown : way.factors.size();
+    for (const Factor& factor : way.factors.mid(way.factors.size() - behind))
+        signal.clock = factor.applied(*signal.clock);
     signal.origin = originOf(way, *root, nameOf(way.root));
     if (signal.origin == signal.name)
         signal.origin.clear();

@@ -31,6 +31,8 @@ private:
     {
         int root = -1; ///< the oscillator's signal; -1 where there is none
         QVector<Factor> factors;
+        std::optional<double> known; ///< the nearest clock on the way that the model knows, in its unit
+        int behindKnown = 0;         ///< how many of the factors come behind it
     };
 
     static QString originOf(const Way& way, const ClockReading& root, const QString& name);
@@ -40,6 +42,8 @@ private:
     std::optional<Factor> flagFactor(ClockSource clock) const;
     QString boxText(const QString& name) const;
     std::optional<ClockReading> oscillator(int net) const;
+    /// The clock that the model has for the signal itself.
+    std::optional<ClockReading> modelClock(int net) const;
 
     const PageDescription& m_page;
     QVector<std::optional<SignalName>> m_names; ///< of each signal

@@ -95,7 +95,7 @@ void addPeripheral(Places& places, const PeripheralClock& clock, const QPoint& c
                spokenAs(stem + QLatin1String(" switch"),
                         {ControlType::Combo, corner.x() + switchRight, middle - 14, QString(), 70, 1}));
     places.add(clock.result(),
-               spokenAs(stem + QLatin1String(" clock, MHz"),
+               spokenAs(clock.spokenResult("MHz"),
                         {ControlType::Output, corner.x() + resultRight, middle - 14, QString(), 0, 0, 9}));
     places.add(clock.unit(),
                {ControlType::Label, corner.x() + unitRight, middle - 10, QStringLiteral("(MHz)"), 0, 0, 9});

@@ -173,6 +173,11 @@ struct PeripheralClock
         return QLatin1String("m_to") + QLatin1String(stem) + QLatin1String("_lineEdit");
     }
     QString unit() const { return QLatin1String("m_to") + QLatin1String(stem) + QLatin1String("_Label"); }
+    /// What assistive tools call the result, in English.
+    QString spokenResult(const char* unit) const
+    {
+        return QStringLiteral("%1 clock, %2").arg(QLatin1String(stem), QLatin1String(unit));
+    }
 };
 
 /// A start value that is not that of the setting's row.

@@ -74,15 +74,19 @@ bool belongsTo(const ClockOutput& output, const QString& source)
                        [&source](const Divider& divider) { return divider.box() == source; });
 }
 
-/// The dividers of the whole page.
-std::vector<Divider> dividersOf(const PageDescription& page)
+const Divider* dividerOf(const PageDescription& page, const QString& box)
 {
-    std::vector<Divider> all = page.dividers;
-    if (page.usb)
-        all.push_back(page.usb->divider);
+    const auto isIt = [&box](const Divider& divider) { return divider.box() == box; };
+    const auto among = [&isIt](const std::vector<Divider>& all) {
+        const auto found = std::find_if(all.begin(), all.end(), isIt);
+        return found != all.end() ? &*found : nullptr;
+    };
+    if (page.usb && isIt(page.usb->divider))
+        return &page.usb->divider;
     for (const ClockOutput& output : page.clockOutputs)
-        all.insert(all.end(), output.dividers.begin(), output.dividers.end());
-    return all;
+        if (const Divider* found = among(output.dividers))
+            return found;
+    return among(page.dividers);
 }
 
 } // namespace
@@ -156,9 +160,8 @@ QHash<QString, QStringList> takenUp(const PageDescription& page)
 std::optional<Factor> factorOf(const PageDescription& page, const ZN64ConfigCLK& model,
                                const QString& control)
 {
-    for (const Divider& divider : dividersOf(page))
-        if (control == divider.box())
-            return Factor{'/', divider.field.get(model)};
+    if (const Divider* divider = dividerOf(page, control))
+        return Factor{'/', divider->field.get(model)};
     if (control == QLatin1String("m_pllmult_ComboBox"))
         return Factor{'*', static_cast<double>(model.Get_PLL_MUL())};
     if (control == QLatin1String("m_pllms_lineEdit"))
