@@ -1,8 +1,6 @@
 #include "pagefixture.h"
 #include "testdata.h"
 
-#include <cmath>
-
 // What the facts of a series come to on its page: the frequencies that a new design shows, and where they
 // turn red.
 
@@ -24,11 +22,6 @@ private slots:
 };
 
 namespace {
-
-double above(double limit)
-{
-    return std::nextafter(limit, 1e9);
-}
 
 /// One clock of the model at the value, MHz, the others low. A bus gets it from twice as much, so that no
 /// rule moves its divider.
