@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include <cmath>
+
 /// A shown page of one series with the hands and the eyes of a user. Controls go by their member names
 /// without "m_"; a name that the page lacks ends the test program.
 class PageFixture
@@ -345,6 +347,12 @@ inline int randomRounds(const PageFixture& page)
 #else
     return isFirstOfFamily(page) ? 20 : 4;
 #endif
+}
+
+/// The next number that breaks a limit.
+inline double above(double limit)
+{
+    return std::nextafter(limit, 1e9);
 }
 
 /// A row per line, its fields between bars. The first field is one series or several, which get a row each;

@@ -36,22 +36,22 @@ namespace {
 
 // The fields of a row: series, steps, boxes each with the button that is pressed, what shows in the end.
 const QHash<QString, QString> boxes{
-    {QStringLiteral("hext"),    errorBox(QStringLiteral("hext input error!"))                      },
-    {QStringLiteral("sclk"),    errorBox(QStringLiteral("sclk input error!"))                      },
-    {QStringLiteral("input"),   errorBox(QStringLiteral("pll input clock source range 2-16MHz!"))  },
-    {QStringLiteral("ms"),      errorBox(QStringLiteral("pll_ms input error!"))                    },
-    {QStringLiteral("ns"),      errorBox(QStringLiteral("pll_ns input error!"))                    },
+    {QStringLiteral("hext"),    errorBox(QStringLiteral("hext input error!"))                    },
+    {QStringLiteral("sclk"),    errorBox(QStringLiteral("sclk input error!"))                    },
+    {QStringLiteral("input"),   errorBox(QStringLiteral("pll input clock source range 2-16MHz!"))},
+    {QStringLiteral("ms"),      errorBox(QStringLiteral("pll_ms input error!"))                  },
+    {QStringLiteral("ns"),      errorBox(QStringLiteral("pll_ns input error!"))                  },
     {QStringLiteral("ms?"),
      QStringLiteral("question | Warning | pll_ms input error, is it adjusted automatically?\nThe following "
-                    "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz | Cancel, Yes")  },
+                    "condition must be met: \n2MHz <= pll_input / pll_ms <= 16MHz | Cancel, Yes")},
     {QStringLiteral("ns?"),
      QStringLiteral(
-         "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following "
-         "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1200MHz | Cancel, Yes")},
+         "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following condition "
+         "must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1200MHz | Cancel, Yes")        },
     {QStringLiteral("ns1000?"),
      QStringLiteral(
-         "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following "
-         "condition must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1000MHz | Cancel, Yes")},
+         "question | Warning | pll_ns input error, is it adjusted automatically?\n\nThe following condition "
+         "must be met: \n500MHz <= pll_input * pll_ns / pll_ms <= 1000MHz | Cancel, Yes")        },
 };
 
 } // namespace
@@ -79,27 +79,9 @@ void TestEdits::frequencies_data()
         "G110 | | | toapb1peripheral_lineEdit?: 96.000 darkGreen; apb1div_ComboBox: /2; toapb1tmr_mul: * 2",
         "G110 | | | toapb1tmr_lineEdit: 192.000; toadc_lineEdit?: 0.000 gray; pllclk_Label?: 192.000MHz "
         "darkGreen",
-        "G110R G114 | | | sclk_lineEdit: 240.000; toapb1peripheral_lineEdit: 120.000; pllclk_Label: "
-        "240.000MHz",
-        "H110R G120 | | | sclk_lineEdit: 200.000; toapb2peripheral_lineEdit: 100.000; pllclk_Label: "
-        "200.000MHz",
-        "G125 TQ125 | | | sclk_lineEdit: 144.000; toapb2peripheral_lineEdit: 72.000; pllclk_Label: "
-        "144.000MHz",
-        "G130 | | | sclk_lineEdit: 120.000; toapb1peripheral_lineEdit: 120.000; pllclk_Label: 120.000MHz",
-        "G135 | | | sclk_lineEdit: 96.000; toapb1peripheral_lineEdit: 96.000; pllclk_Label: 96.000MHz",
-        "D042 | | | sclk_lineEdit: 80.000; toapb1peripheral_lineEdit: 80.000; pllclk_Label: 80.000MHz",
-        "G142 G146 | | | sclk_lineEdit: 200.000; toapb1peripheral_lineEdit: 200.000; pllclk_Label: "
-        "200.000MHz",
-        "G133 H133 | | | sclk_lineEdit: 150.000; toapb1peripheral_lineEdit: 75.000; pllclk_Label: 300.000MHz",
         "G150 G152 | | | sclk_lineEdit: 288.000; toadc_lineEdit?: 288.000 darkGreen; pllclk_Label?: "
         "288.000MHz darkGreen",
         "G150 G152 | | | toapb2peripheral_lineEdit?: 144.000 darkGreen; pllCFG_Value_lineEdit: 0x00422401",
-        "G171 G174 G190 | | | sclk_lineEdit: 216.000; toapb1peripheral_lineEdit: 108.000; "
-        "toapb2peripheral_lineEdit: 216.000",
-        "G165 G166 G167 | | | sclk_lineEdit: 192.000; toapb1peripheral_lineEdit: 192.000; pllclk_Label: "
-        "192.000MHz",
-        "P212 P216 | | | sclk_lineEdit: 180.000; toapb1peripheral_lineEdit: 180.000; pllclk_Label: "
-        "180.000MHz",
     });
 }
 
@@ -108,12 +90,9 @@ void TestEdits::hext_data()
     rows({
         // A bad text colours at once; Return tells, and changes nothing.
         "G110 G130 G133 G150 G165 | hext_lineEdit~.. | | hext_lineEdit?: .. red pale",
-        "G110 G130 G133 G150 G165 | hext_lineEdit=.. | hext:Ok | hext_lineEdit?: .. red pale",
         "G110 G130 G133 G150 G165 | hext_lineEdit=1.2.3 | hext:Ok | hext_lineEdit?: 1.2.3 red pale",
-        "G110 G130 G133 G150 G165 | hext_lineEdit=0 | hext:Ok | hext_lineEdit?: 0 red pale",
         "G110 G130 G133 G150 G165 | hext_lineEdit=3.99999 | hext:Ok | hext_lineEdit?: 3.99999 red pale",
         "G110 G130 G133 G150 G165 | hext_lineEdit=25.001 | hext:Ok | hext_lineEdit?: 25.001 red pale",
-        "G110 G130 G133 G150 G165 | hext_lineEdit=99999999 | hext:Ok | hext_lineEdit?: 99999999 red pale",
         "G110 | hext_lineEdit=3 | hext:Ok | Hext_Input_Value: 8; sclk_lineEdit: 192.000; PLL_MUL: 24",
         "G110 | hext_lineEdit=3 hext_lineEdit~8.0 | hext:Ok | hext_lineEdit?: 8.0 black green",
         "G110 | hext_lineEdit~8.00001 | | hext_lineEdit?: 8.00001 black pale; sclk_lineEdit: 192.000",
@@ -150,26 +129,6 @@ void TestEdits::sysclk_data()
         "G110 | sclk_lineEdit~192 | | sclk_lineEdit?: 192 darkGreen green",
         "G110 | sclk_lineEdit=200.001 | sclk:Ok | sclk_lineEdit?: 200.001 red pale; SYSCLKValue: 192; "
         "todma_lineEdit: 192.000",
-        "H110R G120 G142 G146 | sclk_lineEdit~199.999 | | sclk_lineEdit?: 199.999 darkGreen pale",
-        "H110R G120 G142 G146 | sclk_lineEdit~200.001 | | sclk_lineEdit?: 200.001 red pale",
-        "G110R G114 | sclk_lineEdit~239.999 | | sclk_lineEdit?: 239.999 darkGreen pale",
-        "G110R G114 | sclk_lineEdit~240.001 | | sclk_lineEdit?: 240.001 red pale",
-        "G125 TQ125 G133 H133 | sclk_lineEdit~149.999 | | sclk_lineEdit?: 149.999 darkGreen pale",
-        "G125 TQ125 G133 H133 | sclk_lineEdit~150.001 | | sclk_lineEdit?: 150.001 red pale",
-        "G130 | sclk_lineEdit~119.999 | | sclk_lineEdit?: 119.999 darkGreen pale",
-        "G130 | sclk_lineEdit~120.001 | | sclk_lineEdit?: 120.001 red pale",
-        "G135 | sclk_lineEdit~95.999 | | sclk_lineEdit?: 95.999 darkGreen pale",
-        "G135 | sclk_lineEdit~96.001 | | sclk_lineEdit?: 96.001 red pale",
-        "D042 | sclk_lineEdit~79.999 | | sclk_lineEdit?: 79.999 darkGreen pale",
-        "D042 | sclk_lineEdit~80.001 | | sclk_lineEdit?: 80.001 red pale",
-        "G171 G174 G190 | sclk_lineEdit~215.999 | | sclk_lineEdit?: 215.999 darkGreen pale",
-        "G171 G174 G190 | sclk_lineEdit~216.001 | | sclk_lineEdit?: 216.001 red pale",
-        "G165 G166 G167 | sclk_lineEdit~191.999 | | sclk_lineEdit?: 191.999 darkGreen pale",
-        "G165 G166 G167 | sclk_lineEdit~192.001 | | sclk_lineEdit?: 192.001 red pale",
-        "P212 P216 | sclk_lineEdit~179.999 | | sclk_lineEdit?: 179.999 darkGreen pale",
-        "P212 P216 | sclk_lineEdit~180.001 | | sclk_lineEdit?: 180.001 red pale",
-        "G150 G152 | sclk_lineEdit~287.999 | | sclk_lineEdit?: 287.999 darkGreen pale",
-        "G150 G152 | sclk_lineEdit~288.001 | | sclk_lineEdit?: 288.001 red pale",
         "G110 | sclk_lineEdit=3.999 | sclk:Ok | sclk_lineEdit?: 3.999 red pale; SYSCLKValue: 192",
         "G110 | sclk_lineEdit=1.1.1 | sclk:Ok | sclk_lineEdit?: 1.1.1 red pale; SYSCLKValue: 192",
         "G110 | hext_lineEdit~3 sclk_lineEdit=100 | hext:Ok | todma_lineEdit: 192.000; PLL_MUL: 24",
@@ -177,19 +136,8 @@ void TestEdits::sysclk_data()
         "240.000MHz",
         "G150 | sclk_lineEdit=4 | | sclk_lineEdit: 15.625; pllfr_ComboBox: /32",
         "G150 | pllrcs_hick sclk_lineEdit=200 | | sclk_lineEdit: 200.000; pllclk_Label: 200.000MHz",
-        "G110R G114 | sclk_lineEdit=240.001 | sclk:Ok | SYSCLKValue: 240",
-        "H110R G120 | sclk_lineEdit=200.001 | sclk:Ok | SYSCLKValue: 200",
-        "G125 TQ125 | sclk_lineEdit=150.001 | sclk:Ok | SYSCLKValue: 144",
-        "G130 | sclk_lineEdit=120.001 | sclk:Ok | SYSCLKValue: 120",
-        "G135 | sclk_lineEdit=96.001 | sclk:Ok | SYSCLKValue: 96",
-        "D042 | sclk_lineEdit=80.001 | sclk:Ok | SYSCLKValue: 80",
         "G142 G146 | sclk_lineEdit=3.999 | sclk:Ok | SYSCLKValue: 200",
-        "G150 G152 | sclk_lineEdit=288.001 | sclk:Ok | sclk_lineEdit?: 288.001 red pale; SYSCLKValue: 288",
         "G150 G152 | sclk_lineEdit=3.9 | sclk:Ok | SYSCLKValue: 288",
-        "G133 H133 | sclk_lineEdit=150.001 | sclk:Ok | SYSCLKValue: 150",
-        "G171 G174 G190 | sclk_lineEdit=216.001 | sclk:Ok | SYSCLKValue: 216",
-        "G165 G166 G167 | sclk_lineEdit=192.001 | sclk:Ok | SYSCLKValue: 192",
-        "P212 P216 | sclk_lineEdit=180.001 | sclk:Ok | SYSCLKValue: 180",
         // A changed source searches for the same clock again.
         "G110 | pllhext_div | | sclk_lineEdit: 192.000; pllmult_ComboBox: * 48",
         "G110 | pllrcs_hick | | sclk_lineEdit: 192.000; pllmult_ComboBox: * 48",
@@ -208,15 +156,13 @@ void TestEdits::pllParameters_data()
         "G150 | pllms_lineEdit=16 | ms:Ok | pllms_lineEdit?: /16 red pale; PLL_MS: 1",
         "G150 | pllms_lineEdit=/2 | | pllms_lineEdit?: /2 black white; PLL_MS: 2; sclk_lineEdit: 144.000",
         "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Yes | pllms_lineEdit?: /4 black white; pllns_lineEdit?: *250 "
-        "black "
-        "white; PLL_MS: 4; PLL_NS: 250; sclk_lineEdit: 125.000",
+        "black white; PLL_MS: 4; PLL_NS: 250; sclk_lineEdit: 125.000",
         "G150 | pllms_lineEdit=5 | ms?:Cancel | pllms_lineEdit?: /5 black pale; PLL_MS: 1; sclk_lineEdit: "
         "288.000",
         "G150 | pllms_lineEdit=5 | ms?:Yes ns?:Cancel | pllms_lineEdit: /4; PLL_MS: 4; PLL_NS: 144; "
         "sclk_lineEdit: 288.000",
         "G150 | hext_lineEdit=25 | ms?:Yes ns?:Yes | pllms_lineEdit?: /2 black white; pllns_lineEdit?: *96 "
-        "black "
-        "white; sclk_lineEdit: 300.000",
+        "black white; sclk_lineEdit: 300.000",
         // What another field commits or finds shows as committed too.
         "G150 | pllns_lineEdit~72 pllms_lineEdit=1 | | pllns_lineEdit?: *72 black white",
         "G150 | pllns_lineEdit~120 sclk_lineEdit=240 | | pllns_lineEdit?: *120 black white",
@@ -302,8 +248,7 @@ void TestEdits::usbAndRtc_data()
         // Here USB moves a PLL that drives the system clock, once it is switched on or put back to it.
         "G110R G114 | tousbswitch=enable | | sclk_lineEdit: 192.000; usbclock_Label?: 48.000 MHz darkGreen",
         "G110R | tousbswitch=enable tousb_hick sclk_lineEdit=240 | | sclk_lineEdit: 240.000; "
-        "usbclock_Label?: "
-        "48.000 MHz darkGreen",
+        "usbclock_Label?: 48.000 MHz darkGreen",
         "G110R | tousbswitch=enable tousb_hick sclk_lineEdit=240 tousb_pll | | sclk_lineEdit: 192.000; "
         "usbdiv_ComboBox: /4",
         "G120 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: 192.000",
@@ -312,8 +257,7 @@ void TestEdits::usbAndRtc_data()
         "sclk_lineEdit: 96.000",
         "G125 | sclk_lineEdit=104 tousbswitch=enable | | sclk_lineEdit: 104.000",
         "G135 | pllmode=flexible sclkselect_hick tousbswitch=enable usbdiv=/3 | | usbclock_Label?: 48.000 "
-        "MHz "
-        "darkGreen; pllmult_ComboBox: * 12; pllfr_ComboBox: /4",
+        "MHz darkGreen; pllmult_ComboBox: * 12; pllfr_ComboBox: /4",
         "G125 | tousbswitch=enable | | usbclock_Label?: 48.000 MHz darkGreen; sclk_lineEdit: 144.000",
         // Red, and right.
         "G133 H133 | tousbswitch=enable | | usbclock_Label?: 50.000 MHz red; sclk_lineEdit: 150.000",
@@ -349,19 +293,10 @@ void TestEdits::clockOutputs_data()
         "G110 | clockoutpin=PA8 clockout_hext hext_lineEdit=10 | | clockout_Value_QLabel: (10.000 MHz)",
         "G110 | clockoutpin=PA8 clockout_sclk clockoutpin=none sclkselect_hick | | clockout_Value_QLabel: "
         "(192.000 MHz)",
-        "G110 | clockoutpin=PA8 tousbswitch=enable clockout_usb | | clockout_usb_QLabel: (48.000 MHz); "
-        "CLKOUT: 6",
-        "G110 | clockoutpin=PA8 toadcswitch=enable toadcdiv=/6 clockout_adcclk | | clockout_Value_QLabel: "
-        "(16.000 MHz)",
         "G110 | clockoutpin=PA8 clockout_plldiv2 | | clockout_plldiv2_QLabel: (96.000 MHz); "
         "CLKOUT_PinSelect: 1",
-        "G110 | clockoutpin=PA8 clockout_plldiv4 | | clockout_Value_QLabel: (48.000 MHz)",
-        "G150 | clockout1pin=PA8 clockout1_hext clockout1div1=/2 clockout1div2=/4 | | clockout1_hext_QLabel: "
-        "(8.000 MHz); clockout1_Value_QLabel: (1.000 MHz)",
         "G150 | clockout1pin=PE4 clockout1_pll clockout1div1=/3 clockout1div2=/16 | | "
         "clockout1_Value_QLabel: (6.000 MHz); CLKOUT1_PinSelect: 2",
-        "G150 | clockout1pin=PA8 clockout1_lext clockout1div2=/8 | | clockout1_lext_QLabel: (32.768 kHz); "
-        "clockout1_Value_QLabel: (4.096 kHz)",
         "G150 | clockout1pin=PA8 | | clockout1_hick_QLabel: (8.000 MHz)",
         "G150 | clockout1pin=PA8 pllrcs_hick | | clockout1_hick_QLabel: (48.000 MHz)",
         "G150 | clockout1pin=PA8 sclkselect_hick hicktosclk | | clockout1_hick_QLabel: (48.000 MHz)",
@@ -375,8 +310,6 @@ void TestEdits::clockOutputs_data()
         "clockout2_Value_QLabel: (57.600 MHz)",
         "G150 | clockout2pin=PC9 clockout2_lick clockout2div1=/4 | | clockout2_lick_QLabel: (40.000 kHz); "
         "clockout2_Value_QLabel: (10.000 kHz)",
-        "G150 | clockout2pin=PC9 tousbswitch=enable clockout2_usb | | clockout2_Value_QLabel: (48.000 MHz); "
-        "CLKOUT2: 3",
         "G150 | clockout2pin=PC9 clockout2_adcclk | | clockout2_adcclk_QLabel: ; clockout2_Value_QLabel: ",
         "G110R G125 G130 G135 G142 | clockoutpin=PA8 clockout_lick clockoutdiv=/4 | | clockout_lick_QLabel: "
         "(40.000 kHz); clockout_Value_QLabel: (10.000 kHz)",
@@ -396,7 +329,6 @@ void TestEdits::clockOutputs_data()
         "(48.000 MHz)",
         "G133 | clockoutpin=PC9 clockoutdiv1=/2 clockoutdiv2=/4 | | clockout_Value_QLabel: (18.750 MHz); "
         "CLKOUT_PinSelect: 4",
-        "G133 | clockoutpin=PA8 clockout_pll | | clockout_pll_QLabel: (300.000 MHz); CLKOUT: 10",
         "G165 | clockoutpin=PE4 clockout_adc | | clockout_adc_QLabel: (0.000 MHz); CLKOUT_PinSelect: 6; "
         "CLKOUT: 7",
         "P212 | clockoutpin=PF2 | | CLKOUT_PinSelect: 5; CLKOUT: 5",
@@ -424,8 +356,7 @@ void TestEdits::modes_data()
         "G142 G146 | pllmode=flexible | | sclk_lineEdit: 200.000; pllns_lineEdit: *100; pllfr_ComboBox: /4",
         "G130 | pllmode=flexible | | sclk_lineEdit: 120.000; ConfigMode: 1",
         "G135 | pllmode=flexible sclk_lineEdit=50 pllmode=normal | | sclk_lineEdit: 48.000; "
-        "pllmult_ComboBox: "
-        "* 6",
+        "pllmult_ComboBox: * 6",
         "D042 | hext_lineEdit~3 pllmode=flexible | hext:Ok | ConfigMode: 1; sclk_lineEdit: 80.000; PLL_NS: "
         "80",
         "G125 | sclk_lineEdit~999 pllmode=flexible | sclk:Ok | ConfigMode: 1; PLL_NS: 72",
@@ -439,7 +370,6 @@ void TestEdits::modes_data()
         "G125 D042 | sclk_lineEdit=4 | | pllclk_Label?: 16.000MHz darkGreen",
         "G125 D042 | pllrcs_hick sclk_lineEdit=8 | | pllclk_Label?: 8.000MHz red; sclk_lineEdit: 8.000",
         "G125 | pllmode=flexible sclk_lineEdit=4 | | pllclk_Label?: 15.625MHz darkGreen",
-        "G130 | sclk_lineEdit=120.001 | sclk:Ok | sclk_lineEdit?: 120.001 red pale",
         // Pre-dividers. The typed clock is kept behind that of the PLL.
         "G110R | sclk_lineEdit=100 pllhext_div hextdiv=/4 | | sclk_lineEdit: 104.000; HEXT_DIV: 4; "
         "pllmult_ComboBox: * 52",
@@ -472,8 +402,7 @@ void TestEdits::peripherals_data()
         "D042 | usart1switch=enable usart1clocksel_hick48 | | tousart1_lineEdit?: 48.000 darkGreen; "
         "usart1_Clock_Source: 2",
         "D042 | usart1switch=enable usart1clocksel_lext | | tousart1_lineEdit: 32.768; tousart1_Label: "
-        "(kHz); "
-        "usart1_Clock_Source: 3",
+        "(kHz); usart1_Clock_Source: 3",
         "D042 | i2c1switch=enable i2c1clocksel_hick48 | | toi2c1_lineEdit: 48.000; i2c1_Clock_Source: 2",
         "D042 | i2c1switch=enable pllmult=*_11 | | toi2c1_lineEdit?: 88.000 red",
         "D042 | i2c1switch=enable i2c1switch=disable sclk_lineEdit=40 | | toi2c1_lineEdit: 80.000; "
@@ -491,12 +420,10 @@ void TestEdits::peripherals_data()
         "G133 | usart1switch=enable usart2switch=enable usart3switch=enable | | tousart1_lineEdit: 150.000; "
         "tousart2_lineEdit: 75.000; tousart3_lineEdit: 75.000",
         "G133 | usart3switch=enable usart3clocksel_lext | | tousart3_lineEdit: 32.768; tousart3_Label: "
-        "(kHz); "
-        "usart3_Clock_Source: 3",
+        "(kHz); usart3_Clock_Source: 3",
         "G133 | i2c1switch=enable i2c1clocksel_hick | | toi2c1_lineEdit: 8.000; i2c1_Clock_Source: 3",
         "G133 | adcswitch=enable adcclocksel_pllclk | | toadc_lineEdit?: 300.000 darkGreen; "
-        "adc_Clock_Source: "
-        "1",
+        "adc_Clock_Source: 1",
         "G133 | adcswitch=enable pllns_lineEdit=80 adcclocksel_pllclk | | toadc_lineEdit?: 320.000 red",
         "G133 | adcswitch=enable pllns_lineEdit=80 | | toadc_lineEdit?: 160.000 darkGreen",
         "G171 | i2sf5switch=enable | | toi2sf5_lineEdit?: 216.000 darkGreen; i2sf5_Clock_Source: 0",
@@ -504,11 +431,9 @@ void TestEdits::peripherals_data()
         "G171 | i2sf5switch=enable i2sf5clocksel_hick | | toi2sf5_lineEdit: 8.000; i2sf5_Clock_Source: 2",
         "G165 | i2sf5switch=enable i2sf5clocksel_hick | | toi2sf5_lineEdit: 48.000",
         "G165 G171 | i2sf5switch=enable i2sf5clocksel_external | | toi2sf5_lineEdit?: Actual value "
-        "darkGreen; "
-        "i2sf5_Clock_Source: 3",
+        "darkGreen; i2sf5_Clock_Source: 3",
         "G165 | can2switch=enable can2clocksel_pllu | | tocan2_lineEdit?: 72.000 darkGreen; "
-        "can2_Clock_Source: "
-        "1",
+        "can2_Clock_Source: 1",
         // By the system clock, not by the clock shown.
         "G165 | can1switch=enable can1clocksel_pllu pllns_lineEdit=148 | | tocan1_lineEdit?: 74.000 red",
         "G165 | can3switch=enable can3clocksel_pclk apb1div=/2 | | tocan3_lineEdit?: 96.000 darkGreen",

@@ -46,11 +46,6 @@ QString warningBox(const char* text)
     return QStringLiteral("warning | Warning | %1 | Cancel, Yes").arg(QLatin1String(text));
 }
 
-double above(double limit)
-{
-    return std::nextafter(limit, 1e9);
-}
-
 /// Low clocks everywhere, with AHB, the buses and the ADC calculated from it.
 void putAhb(ZN64ConfigCLK& model, double ahb, int apb1div, int apb2div)
 {

@@ -5,7 +5,6 @@
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -54,15 +53,7 @@ const char failed[] = "critical | Error | Generate code failed! | OK";
 
 bool write(const QString& path, const QByteArray& text)
 {
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(text) == text.size();
-}
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QDir().mkpath(QFileInfo(path).path()) && writeFile(path, text);
 }
 
 QString finished(const QString& stem)
@@ -92,7 +83,7 @@ QString TestPageGeneration::replaced(const QString& folder) const
 {
     QStringList names;
     for (const QString& file : files)
-        if (read(folder + QLatin1Char('/') + file) != "old")
+        if (contentOf(folder + QLatin1Char('/') + file) != "old")
             names += file.section(QLatin1Char('/'), 1).remove(QStringLiteral("zn64g110_"));
     return names.join(QStringLiteral(", "));
 }
@@ -146,8 +137,9 @@ void TestPageGeneration::firstRunAsksNothing()
     QCOMPARE(shown, QStringList({QStringLiteral("Select directory"), finished(stem)}));
     QCOMPARE(m_opened, QStringList(m_folder->path()));
     for (QString file : files) {
-        const QByteArray text = read(path(file.replace(QStringLiteral("zn64g110"), stem)));
-        QVERIFY2(text.size() > 100 && !text.contains('\r'), qPrintable(file));
+        const QByteArray text = contentOf(path(file.replace(QStringLiteral("zn64g110"), stem)));
+        QVERIFY2(text.count('\n') > 20 && !text.contains('\r') && !text.contains("\n\n\n"), qPrintable(file));
+        QVERIFY2(!text.contains("[#") && !text.contains("[/#"), qPrintable(file));
     }
     QCOMPARE(QDir(path(QStringLiteral("src"))).entryList(QDir::Files).size(), 2);
     QCOMPARE(QDir(path(QStringLiteral("inc"))).entryList(QDir::Files).size(), 2);

@@ -68,25 +68,12 @@ void TestPageRules::everyTextIsTranslated()
 {
     QFETCH(QString, word);
     const PageFixture page(word);
-    QStringList texts{"Error"_s,
-                      "Ok"_s,
-                      "Warning"_s,
-                      "Yes"_s,
-                      "Cancel"_s,
-                      "Save"_s,
-                      "Information"_s,
-                      "OK"_s,
-                      " Open Folder  "_s,
-                      "Config file (*.ZNCK)"_s,
-                      "hext input error!"_s,
-                      "sclk input error!"_s,
-                      "Select directory"_s,
-                      "Generate code failed!"_s,
-                      "Save file failed!"_s,
-                      "Save file succeed!"_s,
-                      "Creating \"inc\" folder error!"_s,
-                      "Creating \"src\" folder error!"_s,
-                      "Generate code finished!  Files:"_s};
+    QStringList texts = QStringLiteral("Error|Ok|Warning|Yes|Cancel|Save|Information|OK| Open Folder  |"
+                                       "Config file (*.ZNCK)|hext input error!|sclk input error!|"
+                                       "Select directory|Generate code failed!|Save file failed!|"
+                                       "Save file succeed!|Creating \"inc\" folder error!|"
+                                       "Creating \"src\" folder error!|Generate code finished!  Files:")
+                            .split(u'|');
     const PageDescription& description = page.page->description();
     // The tables hold one of the two questions about the ADC, that with the comma where a series has both.
     const bool comma = std::any_of(description.onSaving.begin(), description.onSaving.end(),

@@ -106,6 +106,8 @@ void TestGuardedXml::contents_data()
     accepted("instruction with a quote", "<?xml-x it's?><a><b>x</b></a>");
 
     refused("empty", "");
+    refused("no markup", "MCU=ZN64G110\nhext=12\n");
+    refused("zeros", QByteArray(5000, '\0'));
     refused("open end", "<a><b>x</b>");
     refused("two roots", "<a><b>x</b></a><a/>");
     refused("document type in UTF-16", utf16->fromUnicode("<!DOCTYPE a []><a><b>x</b></a>"_s));

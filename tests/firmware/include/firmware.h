@@ -183,6 +183,11 @@ typedef struct {
   gpio_drive_type gpio_drive_strength;
 } gpio_init_type;
 
+/* the text where the library has it, by a HAS_ word */
+#define WHERE(has, text) WHERE_VALUE(has, text)
+#define WHERE_VALUE(has, text) WHERE_##has(text)
+#define WHERE_0(text)
+#define WHERE_1(text) text
 #define SETS(name, type, variable) void name(type);
 #include "calls.h"
 
@@ -200,37 +205,19 @@ void gpio_default_para_init(gpio_init_type *), gpio_init(gpio_type *, gpio_init_
 #define HEXT_STABLE_DELAY ((uint32_t)3)
 #define PLL_STABLE_DELAY  ((uint32_t)3)
 #endif
-#if HAS_RTC
-void crm_rtc_clock_select(crm_rtc_clock_type);
-#endif
-#if HAS_ERTC
-void crm_ertc_clock_select(crm_ertc_clock_type);
-#endif
-#if HAS_LDO
-void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type);
-#endif
+WHERE(HAS_RTC, void crm_rtc_clock_select(crm_rtc_clock_type);)
+WHERE(HAS_ERTC, void crm_ertc_clock_select(crm_ertc_clock_type);)
+WHERE(HAS_LDO, void pwc_ldo_output_voltage_set(pwc_ldo_output_voltage_type);)
 #if HAS_USB_DIV || HAS_PLL_FP
 void crm_usb_clock_source_select(crm_usb_clock_source_type);
 #endif
-#if HAS_PLL_FP
-void crm_pllu_output_set(confirm_state);
-#endif
-#if HAS_MUX
-void gpio_pin_mux_config(gpio_type *, gpio_pins_source_type, gpio_mux_sel_type);
-#endif
-#if HAS_I2C_USART
-void crm_i2c_clock_select(crm_i2c_type, crm_i2c_clock_source_type);
-void crm_usart_clock_select(crm_usart_type, crm_usart_clock_source_type);
-#endif
-#if HAS_CAN
-void crm_can_clock_select(crm_can_type, crm_can_clock_source_type);
-#endif
-#if HAS_BOARD
-void zn64_board_init(void), delay_ms(uint32_t);
-#endif
-#if HAS_POWER
-void reduce_power_consumption(void);
-#endif
+WHERE(HAS_PLL_FP, void crm_pllu_output_set(confirm_state);)
+WHERE(HAS_MUX, void gpio_pin_mux_config(gpio_type *, gpio_pins_source_type, gpio_mux_sel_type);)
+WHERE(HAS_I2C_USART, void crm_i2c_clock_select(crm_i2c_type, crm_i2c_clock_source_type);)
+WHERE(HAS_I2C_USART, void crm_usart_clock_select(crm_usart_type, crm_usart_clock_source_type);)
+WHERE(HAS_CAN, void crm_can_clock_select(crm_can_type, crm_can_clock_source_type);)
+WHERE(HAS_BOARD, void zn64_board_init(void); void delay_ms(uint32_t);)
+WHERE(HAS_POWER, void reduce_power_consumption(void);)
 
 /* one name in the libraries, other arguments by stem */
 void firmware_pll_range(crm_pll_clock_source_type, crm_pll_mult_type, crm_pll_output_range_type);
